@@ -1,0 +1,14 @@
+#pragma once
+
+namespace ZCOMMON {
+
+/** Grade of a new password. Any other value passes both rules, as the three named grades do. */
+enum PwdStrength : int {
+    PwdLengthIllegal = -1, ///< shorter or longer than the length rule allows
+    PwdTooSimple = 0,      ///< length kept, but not enough kinds of characters
+    PwdWeak = 1,
+    PwdMedium = 2,
+    PwdStrong = 3
+};
+
+} // namespace ZCOMMON

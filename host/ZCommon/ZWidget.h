@@ -1,0 +1,27 @@
+#pragma once
+
+#include "host/Export.h"
+
+#include <QWidget>
+
+namespace ZCOMMON {
+
+/**
+ * Base of the client's panels. Its mouse handlers leave every event unaccepted, so that a press on the panel's
+ * background reaches the window below it (see MoveableDialog).
+ */
+class ZCOMMON_EXPORT ZWidget : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit ZWidget(QWidget *parent = nullptr);
+    ~ZWidget() override;
+
+protected:
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+};
+
+} // namespace ZCOMMON

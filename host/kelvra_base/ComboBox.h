@@ -1,0 +1,27 @@
+#pragma once
+
+#include "host/Export.h"
+
+#include <QComboBox>
+
+class QListWidget;
+
+namespace kelvra_base {
+
+/** A combo box whose drop-down is a list widget that its owner may style. */
+class KELVRA_BASE_EXPORT ComboBox : public QComboBox
+{
+    Q_OBJECT
+
+public:
+    explicit ComboBox(QWidget *parent = nullptr);
+    ~ComboBox() override;
+
+    /** The list that drops down; owned by the box and never null. */
+    QListWidget *getListWt() const;
+
+private:
+    QListWidget *listWt;
+};
+
+} // namespace kelvra_base

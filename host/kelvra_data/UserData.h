@@ -1,0 +1,112 @@
+#pragma once
+
+#include "host/Export.h"
+#include "host/ZCommon/ZSingleton.h"
+#include "host/kelvra_data/SuperUserInfo.h"
+#include "host/kelvra_data/UserInfo.h"
+#include "host/kelvra_data/UserRole.h"
+
+#include <QDateTime>
+#include <QString>
+
+#include <memory>
+
+namespace kelvra_data {
+
+/**
+ * The store of local users, their credentials, their login records and the lock of local login.
+ *
+ * Every `bool` answer is true on success, or when the asked fact holds. An operation that answers false has
+ * changed nothing. Names are compared exactly. No operation blocks for longer than a user would notice.
+ */
+class KELVRA_DATA_EXPORT UserData : public ZCOMMON::ZSingleton<UserData>
+{
+public:
+    /** No superuser exists and nobody has ever logged in: the client offers the choice of how to begin. */
+    bool isFirstLogin();
+
+    bool isUserExist(const QString &name);
+    bool isSuperUser(const QString &name);
+    /** Whether a local user of this role exists; the module asks for SuperUserRole only. */
+    bool isSuperUserExist(UserRole role);
+
+    /** The user of that name; UserInfo::name is empty when there is none. */
+    UserInfo getUserInfo(const QString &name);
+
+    /**
+     * The superuser responsible for `name`: the record itself when `name` is the superuser. The module passes
+     * the user who is logging in. A fresh record (empty userName) when there is none.
+     */
+    SuperUserInfo getSuperUserInfo(const QString &name);
+
+    /** The local user who logged in last, empty before the first login. */
+    QString getLastLoggedLocalUser();
+
+    /** False for a wrong password and for an unknown user alike. */
+    bool verifyUserPassword(const QString &name, const QString &password);
+
+    /** `gesture` holds the digits 0 to 8 of the dots in drawing order. False as for the password. */
+    bool verifyUserGesture(const QString &name, const QString &gesture);
+
+    /**
+     * Reads the stored lock of local login. On true both arguments are set: `seconds` is what is left of a lock
+     * as it was stored, whatever time has passed since. On false they are left alone.
+     */
+    bool getLockInfo(bool &locked, int &seconds);
+
+    /** Stores the lock of local login; also called with (false, 0) and (false, 300) for "not locked". */
+    bool updateLockInfo(bool locked, int seconds);
+
+    /** Records a login of `name` now, with whether the next one may be automatic; makes it the last local user. */
+    bool updateUserLoginRecord(const QString &name, bool autoLogin);
+
+    /** Reads that record. False when there is none; the arguments are then left alone. */
+    bool getUserLoginRecord(const QString &name, bool &autoLogin, QDateTime &lastLogin);
+
+    bool isUserAutoLogin(const QString &name);
+    /** Switches automatic login of `name` on or off; false when the user does not exist. */
+    bool userAutoLoginCtrl(const QString &name, bool on);
+
+    /** Remembers this computer as the one of the last login. */
+    bool updateLoginEnvironment();
+    /** Whether this computer is that of the last login; automatic login requires it. */
+    bool isSameLoginEnvironment();
+
+    bool isUserConfigureGesture(const QString &name);
+    bool updateUserGesture(const QString &name, const QString &gesture);
+    bool deleteUserGesture(const QString &name);
+
+    /** Creates the local superuser; false when one exists already or the record is not usable. */
+    bool addSuperUser(const SuperUserInfo &info);
+
+    /** Adopts a cloud account as superuser at its first login on this client. */
+    bool addSuperUserFromSaasUser(const QString &account);
+
+    /** Whether the three answers are those stored for `name`. */
+    bool verifySuperUserAnswers(const QString &name, const QString &answer1, const QString &answer2,
+                                const QString &answer3);
+
+    /** Replaces the password of `name`. */
+    bool resetUserPwd(const QString &name, const QString &password);
+
+    /**
+     * A text of 62 to 126 UTF-16 characters by which checkSuperUserCredentials knows the superuser again; empty
+     * on failure.
+     */
+    QString generateSuperUserCredentials(const QString &name);
+
+    /** Whether `credential` was generated for `name`. The text may be anything, an empty one included. */
+    bool checkSuperUserCredentials(const QString &name, const QString &credential);
+
+private:
+    friend class ZCOMMON::ZSingleton<UserData>;
+    UserData();
+    ~UserData();
+
+    class Private;
+    const std::unique_ptr<Private> d;
+};
+
+} // namespace kelvra_data
+
+ZSINGLETON_DECLARE(KELVRA_DATA_EXPORT, kelvra_data::UserData)

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QString>
+
+namespace kelvra_saas {
+
+/** A login QR code. */
+struct LoginQRCodeInfo
+{
+    QString id;
+    QString image;           ///< put into the `src` of an HTML image: resource path, file path or data URI
+    int validitySeconds = 0; ///< how long the code may be scanned, in seconds
+};
+
+} // namespace kelvra_saas

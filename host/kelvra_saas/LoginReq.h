@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QString>
+
+namespace kelvra_saas {
+
+/** A cloud login, by password ("PASSWORD") or by SMS code ("VERIFY_CODE"). */
+struct LoginReq
+{
+    QString requestId;
+    QString account;          ///< phone number
+    QString password;         ///< empty for a login by code
+    QString verificationCode; ///< empty for a login by password
+    QString loginType = QStringLiteral("PASSWORD");
+};
+
+} // namespace kelvra_saas
