@@ -1,0 +1,167 @@
+#include "login/frame/LoginDlg.h"
+
+#include "host/kelvra_base/LogoLabel.h"
+#include "host/kelvra_base/ZMessageBox.h"
+#include "host/kelvra_contact/SystemMsg.h"
+#include "login/frame/LoginSignals.h"
+#include "ui_LoginDlg.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QPointer>
+#include <QPushButton>
+
+using kelvra_base::LogoLabel;
+using kelvra_base::ZMessageBox;
+using kelvra_contact::SystemMsg;
+
+namespace kelvra_login {
+
+namespace {
+
+constexpr int splashPage = 1;
+constexpr QPoint logoPos(34, 20);
+constexpr int closeBtSize = 14;
+constexpr int closeBtMargin = 15; // to the dialog's top and right edge
+constexpr int loadedHalf = 50;    // percent: where loading stands once the login is accepted
+
+} // namespace
+
+LoginDlg::LoginDlg(QWidget *parent)
+    : MoveableDialog(parent, QString(), QColor(QStringLiteral("#0f1526")))
+    , ui(std::make_unique<Ui::LoginDlg>())
+{
+    ui->setupUi(this);
+    setWindowFlags(windowFlags() | Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
+                   Qt::WindowMaximizeButtonHint);
+    createOverlays();
+
+    connect(closeBt, &QPushButton::clicked, this, &LoginDlg::slotCloseBtClicked);
+    connect(ui->splashScreen, &SplashScreen::signalSystemLoadingFinished, this, &LoginDlg::slotSystemLoadingFinished);
+    connect(&LoginSignals::_instance(), &LoginSignals::signalLoginSuccess, this, &LoginDlg::slotLoginSuccess);
+    connect(&SystemMsg::_instance(), &SystemMsg::signalDgwAbnormal, this, &LoginDlg::quitWithMessage);
+    connect(&SystemMsg::_instance(), &SystemMsg::signalClientRepeatedStart, this, &LoginDlg::bringToFront);
+}
+
+LoginDlg::~LoginDlg() = default;
+
+void LoginDlg::createOverlays()
+{
+    logo = new LogoLabel(this);
+    logo->setObjectName(QStringLiteral("logo"));
+
+    closeBt = new QPushButton(this);
+    closeBt->setObjectName(QStringLiteral("closeBt"));
+    closeBt->setFixedSize(closeBtSize, closeBtSize);
+    closeBt->setAutoDefault(false);
+    closeBt->setDefault(false);
+    closeBt->setFocusPolicy(Qt::NoFocus);
+    closeBt->setProperty("common_close_bt_style1", true);
+
+    ui->stackedWidget->lower();
+}
+
+void LoginDlg::quitSystem()
+{
+    if (ended)
+        return;
+    ended = true;
+    // Whoever hears that the client quits may take the dialog with it.
+    const QPointer<LoginDlg> self(this);
+    emit SystemMsg::_instance().signalPrepareQuitSystem();
+    emit SystemMsg::_instance().signalQuitSystem();
+    if (self)
+        reject();
+}
+
+void LoginDlg::quitWithMessage(const QString &message)
+{
+    const QPointer<LoginDlg> self(this);
+    if (!message.isEmpty())
+        ZMessageBox::warning(this, message, kelvra_base::OkButton, false);
+    if (self)
+        quitSystem();
+}
+
+void LoginDlg::bringToFront()
+{
+    if (ended)
+        return;
+    {
+        // A pop-up that comes and goes lets a window of another foreground program be overtaken.
+        QMenu menu;
+        menu.popup(QPoint(-1, -1));
+    }
+    showNormal();
+    raise();
+    QApplication::setActiveWindow(this);
+}
+
+void LoginDlg::slotCloseBtClicked()
+{
+    quitSystem();
+}
+
+void LoginDlg::slotLoginSuccess()
+{
+    if (ended)
+        return;
+    ui->stackedWidget->setCurrentIndex(splashPage);
+    logo->hide();
+    repaint();
+    emit SystemMsg::_instance().signalLoginSuccess();
+    emit SystemMsg::_instance().signalSystemInitProgress(loadedHalf);
+}
+
+void LoginDlg::slotSystemLoadingFinished()
+{
+    if (ended)
+        return;
+    ended = true;
+    hide();
+    emit SystemMsg::_instance().signalSystemInitFinished();
+    deleteLater();
+}
+
+void LoginDlg::closeEvent(QCloseEvent *event)
+{
+    const QPointer<LoginDlg> self(this);
+    quitSystem();
+    if (self)
+        MoveableDialog::closeEvent(event);
+}
+
+void LoginDlg::keyPressEvent(QKeyEvent *event)
+{
+    switch (event->key()) {
+    case Qt::Key_Escape:
+        event->accept();
+        quitSystem();
+        break;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        // The page has had its click; a dialog would press a button of its own choice besides.
+        event->accept();
+        break;
+    default:
+        MoveableDialog::keyPressEvent(event);
+    }
+}
+
+void LoginDlg::resizeEvent(QResizeEvent *event)
+{
+    MoveableDialog::resizeEvent(event);
+    logo->move(logoPos);
+    closeBt->move(width() - closeBtMargin - closeBt->width(), closeBtMargin);
+}
+
+void LoginDlg::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        ui->retranslateUi(this);
+    MoveableDialog::changeEvent(event);
+}
+
+} // namespace kelvra_login

@@ -1,0 +1,109 @@
+#include "login/frame/SplashScreen.h"
+
+#include "host/ZCommon/SmoothProgress.h"
+#include "host/kelvra_contact/SystemMsg.h"
+#include "host/kelvra_worker/Customization.h"
+#include "ui_SplashScreen.h"
+
+#include <QEvent>
+#include <QFileInfo>
+#include <QPainter>
+
+using kelvra_contact::SystemMsg;
+using kelvra_worker::Customization;
+using kelvra_worker::CustomizeInfo;
+using ZCOMMON::SmoothProgress;
+
+namespace kelvra_login {
+
+namespace {
+
+constexpr int fullProgress = 100; // percent
+constexpr int barMargin = 40;     // left and right of the track
+constexpr int barBottom = 77;     // from the track's top edge to the screen's bottom
+constexpr int barHeight = 7;
+constexpr int trackRadius = 3;
+constexpr int barRadius = 4;
+constexpr int lightLeft = 18; // from the bar's head to the left edge of the glow
+constexpr double lightTop = 12.5;
+
+QPixmap loadBackground()
+{
+    const CustomizeInfo &customization = Customization::_instance().getCustomizeInfo();
+    if (customization.customLoadingImageEnabled && QFileInfo(customization.loadingImagePath).isFile())
+        return QPixmap(customization.loadingImagePath);
+    return QPixmap(QStringLiteral(":/login_images/images/img_bg_loading.png"));
+}
+
+} // namespace
+
+SplashScreen::SplashScreen(QWidget *parent)
+    : ZWidget(parent)
+    , ui(std::make_unique<Ui::SplashScreen>())
+    , background(loadBackground())
+    , smoothProgress(new SmoothProgress(this))
+{
+    ui->setupUi(this);
+    connect(smoothProgress, &SmoothProgress::signalProgress, this, &SplashScreen::slotSmoothProgress);
+    connect(&SystemMsg::_instance(), &SystemMsg::signalSystemInitProgress, this, &SplashScreen::slotSystemInitProgress);
+}
+
+SplashScreen::~SplashScreen() = default;
+
+void SplashScreen::slotSystemInitProgress(int value)
+{
+    smoothProgress->setCurrentProgress(value);
+}
+
+void SplashScreen::slotSmoothProgress(int value)
+{
+    progress = qBound(0, value, fullProgress);
+    showProgress();
+    repaint();
+    if (progress == fullProgress)
+        emit signalSystemLoadingFinished();
+}
+
+void SplashScreen::showProgress()
+{
+    ui->progress->setText(QStringLiteral("%1%").arg(progress));
+}
+
+void SplashScreen::paintEvent(QPaintEvent *event)
+{
+    {
+        QPainter painter(this);
+        painter.setPen(Qt::NoPen);
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        painter.drawPixmap(rect(), background);
+
+        painter.setRenderHint(QPainter::Antialiasing);
+        const int top = height() - barBottom;
+        const int trackWidth = width() - 2 * barMargin;
+        painter.setBrush(QColor(QStringLiteral("#202a3f")));
+        painter.drawRoundedRect(barMargin, top, trackWidth, barHeight, trackRadius, trackRadius);
+
+        const int x = static_cast<int>((progress * trackWidth) * 0.01 + barMargin);
+        QLinearGradient gradient(barMargin, top, x, top);
+        gradient.setColorAt(0, QColor(QStringLiteral("#0f8bfd")));
+        gradient.setColorAt(1, QColor(QStringLiteral("#12f8fd")));
+        painter.setBrush(gradient);
+        painter.drawRoundedRect(barMargin, top, x - barMargin, barHeight, barRadius, barRadius);
+
+        if (progress > 0)
+            painter.drawPixmap(x - lightLeft, static_cast<int>(top - lightTop),
+                               QPixmap(QStringLiteral(":/login_images/images/img_light.png")));
+    }
+    ZWidget::paintEvent(event);
+}
+
+void SplashScreen::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        ui->retranslateUi(this);
+        showProgress();
+    }
+    ZWidget::changeEvent(event);
+}
+
+} // namespace kelvra_login

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "host/ZCommon/ZWidget.h"
+
+#include <QPixmap>
+
+#include <memory>
+
+namespace ZCOMMON {
+class SmoothProgress;
+}
+
+namespace kelvra_login {
+
+namespace Ui {
+class SplashScreen;
+}
+
+/** Shows how far the client has loaded after a login, gliding from report to report. */
+class SplashScreen : public ZCOMMON::ZWidget
+{
+    Q_OBJECT
+
+public:
+    explicit SplashScreen(QWidget *parent = nullptr);
+    ~SplashScreen() override;
+
+signals:
+    /** The bar has reached 100. */
+    void signalSystemLoadingFinished();
+
+public slots:
+    /** A step of the glide, in percent; what is outside 0 to 100 counts as the nearer end. */
+    void slotSmoothProgress(int value);
+    /** A report of the host, in percent: the glide's new target. */
+    void slotSystemInitProgress(int value);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void changeEvent(QEvent *event) override;
+
+private:
+    void showProgress();
+
+    const std::unique_ptr<Ui::SplashScreen> ui;
+    int progress = 0;
+    QPixmap background;
+    ZCOMMON::SmoothProgress *smoothProgress = nullptr;
+};
+
+} // namespace kelvra_login

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "host/ZCommon/StyleDefs.h"
+
+#include <QString>
+
+class QLineEdit;
+class QWidget;
+
+/**
+ * @file
+ * What the user name and the password field share: the looks of frame and text, and their handling.
+ */
+
+namespace kelvra_login {
+
+/** Look of an input field; any other value is ignored. */
+enum FieldState : int { FieldNormal = 0, FieldHover = 1, FieldFocused = 2 };
+
+inline const QString frameNormalStyle =
+    ZCOMMON::styleFramedWidget.arg(ZCOMMON::colorFieldBackground, ZCOMMON::colorBorder);
+inline const QString frameHighlightedStyle =
+    ZCOMMON::styleFramedWidget.arg(ZCOMMON::colorFieldBackground, ZCOMMON::colorAccent);
+inline const QString frameDisabledStyle = ZCOMMON::styleFramedWidgetDisabled.arg(ZCOMMON::colorBorder);
+inline const QString editDimStyle = ZCOMMON::styleLineEditDim.arg(ZCOMMON::colorFieldBackground);
+inline const QString editBrightStyle = ZCOMMON::styleLineEditBright.arg(ZCOMMON::colorFieldBackground);
+inline const QString editDisabledStyle = ZCOMMON::styleLineEditDisabled;
+
+/** Sets a style sheet unless it is in force: setting one again would polish the whole field anew. */
+void applyStyle(QWidget *widget, const QString &styleSheet);
+
+/** Shows `text` as a tool tip at the line edit's top left corner. */
+void showFieldError(QLineEdit *lineEdit, const QString &text);
+
+} // namespace kelvra_login

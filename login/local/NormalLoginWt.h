@@ -1,0 +1,81 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QMap>
+#include <QTimer>
+#include <QWidget>
+
+#include <memory>
+
+namespace kelvra_base {
+class CapsLockToolTipHandler;
+}
+
+namespace kelvra_login {
+
+namespace Ui {
+class NormalLoginWt;
+}
+
+/**
+ * The everyday login form: a tab for local users, with the failure limit, the countdown of the lock and the
+ * remembered login, and a tab for cloud accounts, whose pages LoginSignals::signalSaasLoginEvent selects.
+ */
+class NormalLoginWt : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit NormalLoginWt(QWidget *parent);
+    ~NormalLoginWt() override;
+
+public slots:
+    void slotLocalLoginBtClicked();
+    void slotCountDownTimeout();
+    void slotQuitSystem();
+    void slotLockLoginByGesture();
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+    void changeEvent(QEvent *event) override;
+
+private:
+    void restoreLastUser();
+    void readLock();
+    void showFirstPage();
+    void connectFields();
+    void connectPages();
+    void connectHub();
+
+    void selectTab(bool cloud, QWidget *page);
+    void slotUserNameEdited();
+    void checkRememberedLogin();
+    void putRememberedPassword(const QString &userName);
+    void clickLoginSoon();
+    void tryCloudAutoLogin();
+    void startLock(const QString &userName);
+    void startCountDown();
+    void refreshLinkRow();
+
+    bool linkPressed(QObject *link);
+    void forgotPressed();
+    void gesturePressed();
+    bool hasUserName();
+    void showNameError(const QString &text);
+
+    const std::unique_ptr<Ui::NormalLoginWt> ui;
+    bool locked = false;
+    qint32 lockSeconds = 0;
+    QTimer *countDownTimer;
+    QTimer *nameTimer;
+    QElapsedTimer lockClock;
+    QMap<int, QWidget *> cloudPages;
+    QWidget *currentCloudPage = nullptr;
+    kelvra_base::CapsLockToolTipHandler *capsLockHandler;
+    bool loginRemembered = false;
+    QString tipAfterRelease;
+};
+
+} // namespace kelvra_login

@@ -1,0 +1,204 @@
+#include "login/local/UserPwdWt.h"
+
+#include "login/local/FieldStyle.h"
+#include "ui_UserPwdWt.h"
+
+#include <QAction>
+#include <QKeyEvent>
+
+namespace kelvra_login {
+
+namespace {
+
+constexpr QChar placeholderChar(0x0001);
+constexpr int placeholderLength = 16;
+constexpr char passwordProperty[] = "pwd";
+
+bool isClipboardKey(const QKeyEvent &event)
+{
+    // The two delete keys copy what they delete.
+    static constexpr QKeySequence::StandardKey keys[] = {QKeySequence::Paste, QKeySequence::Copy, QKeySequence::Cut,
+                                                         QKeySequence::DeleteEndOfLine,
+                                                         QKeySequence::DeleteCompleteLine};
+    return std::any_of(std::begin(keys), std::end(keys), [&event](auto key) { return event.matches(key); });
+}
+
+bool typesText(const QKeyEvent &event)
+{
+    const QString text = event.text();
+    return !text.isEmpty() && text.at(0).isPrint() &&
+           !(event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
+}
+
+} // namespace
+
+UserPwdWt::UserPwdWt(QWidget *parent)
+    : ZWidget(parent)
+    , ui(std::make_unique<Ui::UserPwdWt>())
+{
+    ui->setupUi(this);
+    setAttribute(Qt::WA_StyledBackground);
+    setFocusProxy(ui->pwd);
+    ui->pwd->setContextMenuPolicy(Qt::NoContextMenu);
+    ui->pwd->setAttribute(Qt::WA_InputMethodEnabled, false);
+    ui->pwd->installEventFilter(this);
+
+    eye = new QAction(ui->pwd);
+    eye->setObjectName(QStringLiteral("eye"));
+    eye->setCheckable(true);
+    ui->pwd->addAction(eye, QLineEdit::TrailingPosition);
+
+    connect(eye, &QAction::triggered, this, &UserPwdWt::showPassword);
+    connect(ui->pwd, &QLineEdit::textEdited, this, &UserPwdWt::keepTypedPasswordClean);
+    setState(FieldNormal);
+}
+
+UserPwdWt::~UserPwdWt() = default;
+
+QString UserPwdWt::text() const
+{
+    return standsForRemembered() ? ui->pwd->property(passwordProperty).toString() : ui->pwd->text().trimmed();
+}
+
+void UserPwdWt::setText(const QString &text)
+{
+    setPassword(text, false);
+}
+
+void UserPwdWt::setPassword(const QString &text, bool remembered)
+{
+    ui->pwd->setProperty(passwordProperty, text);
+    if (text.isEmpty()) {
+        ui->pwd->clear();
+        eye->setVisible(true);
+    } else if (remembered) {
+        ui->pwd->setText(QString(placeholderLength, placeholderChar));
+        eye->setVisible(false);
+    } else {
+        ui->pwd->setText(text);
+    }
+}
+
+void UserPwdWt::forgetRememberedPassword()
+{
+    if (standsForRemembered())
+        setPassword(QString(), false);
+}
+
+bool UserPwdWt::standsForRemembered() const
+{
+    return ui->pwd->text().contains(placeholderChar);
+}
+
+void UserPwdWt::keepTypedPasswordClean(const QString &text)
+{
+    const QString trimmed = text.trimmed();
+    if (trimmed != text)
+        ui->pwd->setText(trimmed);
+    else if (standsForRemembered())
+        setPassword(QString(), false);
+    eye->setVisible(true);
+}
+
+void UserPwdWt::setPlaceholderText(const QString &text)
+{
+    ownPlaceholder = false;
+    ui->pwd->setPlaceholderText(text);
+}
+
+void UserPwdWt::setState(int state)
+{
+    if (state < FieldNormal || state > FieldFocused)
+        return;
+    if (state != FieldFocused && ui->pwd->hasFocus())
+        return;
+
+    const bool normal = state == FieldNormal;
+    applyStyle(this, normal ? frameNormalStyle : frameHighlightedStyle);
+    applyStyle(ui->pwd, normal ? editDimStyle : editBrightStyle);
+    ui->pwdImage->setPixmap(QPixmap(normal ? QStringLiteral(":/login_images/images/password_n.png")
+                                           : QStringLiteral(":/login_images/images/password_h.png")));
+    updateEyeIcon(!normal);
+}
+
+void UserPwdWt::updateEyeIcon(bool highlighted)
+{
+    eye->setIcon(QIcon(QStringLiteral(":/images/images/%1_pwd_%2.png")
+                           .arg(eye->isChecked() ? QStringLiteral("show") : QStringLiteral("hide"),
+                                highlighted ? QStringLiteral("h") : QStringLiteral("n"))));
+}
+
+void UserPwdWt::showPassword(bool shown)
+{
+    ui->pwd->setEchoMode(shown ? QLineEdit::Normal : QLineEdit::Password);
+    // The normal echo mode switches input methods on again.
+    ui->pwd->setAttribute(Qt::WA_InputMethodEnabled, false);
+    updateEyeIcon(true);
+}
+
+void UserPwdWt::hideIcon()
+{
+    ui->pwdImage->hide();
+}
+
+void UserPwdWt::showError(const QString &text)
+{
+    showFieldError(ui->pwd, text);
+}
+
+ZCOMMON::ZLineEdit *UserPwdWt::lineEdit() const
+{
+    return ui->pwd;
+}
+
+void UserPwdWt::enterEvent(QEvent *event)
+{
+    setState(FieldHover);
+    ZWidget::enterEvent(event);
+}
+
+void UserPwdWt::leaveEvent(QEvent *event)
+{
+    setState(FieldNormal);
+    ZWidget::leaveEvent(event);
+}
+
+void UserPwdWt::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
+    ZWidget::changeEvent(event);
+}
+
+void UserPwdWt::retranslate()
+{
+    const QString typed = ui->pwd->text();
+    const QString placeholder = ui->pwd->placeholderText();
+    ui->retranslateUi(this);
+    if (ui->pwd->text() != typed)
+        ui->pwd->setText(typed);
+    // The owner hears of a new language first, and its placeholder is the one to keep.
+    if (!ownPlaceholder)
+        ui->pwd->setPlaceholderText(placeholder);
+}
+
+bool UserPwdWt::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == ui->pwd && event->type() == QEvent::KeyPress && handleKeyPress(*static_cast<QKeyEvent *>(event)))
+        return true;
+    return ZWidget::eventFilter(watched, event);
+}
+
+bool UserPwdWt::handleKeyPress(const QKeyEvent &event)
+{
+    if (isClipboardKey(event))
+        return true;
+    // The placeholder fills the field, so that the line edit would refuse the character and report no edit.
+    if (standsForRemembered() && !ui->pwd->hasSelectedText() && typesText(event)) {
+        setPassword(QString(), false);
+        return true;
+    }
+    return false;
+}
+
+} // namespace kelvra_login
