@@ -83,7 +83,12 @@ NormalLoginWt::NormalLoginWt(QWidget *parent)
     connectHub();
 }
 
-NormalLoginWt::~NormalLoginWt() = default;
+NormalLoginWt::~NormalLoginWt()
+{
+    // A field that dies with the focus still tells that it has lost it, when the form is gone already.
+    ui->localUserWt->lineEdit()->disconnect(this);
+    ui->localPwdWt->lineEdit()->disconnect(this);
+}
 
 void NormalLoginWt::restoreLastUser()
 {

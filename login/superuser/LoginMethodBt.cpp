@@ -11,6 +11,9 @@ LoginMethodBt::LoginMethodBt(QWidget *parent)
     , ui(std::make_unique<Ui::LoginMethodBt>())
 {
     ui->setupUi(this);
+    // Over its labels, too, the button is what the pointer is on: it lost its hover picture there.
+    ui->title->setAttribute(Qt::WA_TransparentForMouseEvents);
+    ui->detail->setAttribute(Qt::WA_TransparentForMouseEvents);
     connect(this, &QPushButton::clicked, this, [this] { emit signalClicked(method); });
 }
 
