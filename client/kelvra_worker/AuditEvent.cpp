@@ -1,0 +1,40 @@
+#include "client/kelvra_worker/AuditEvent.h"
+
+#include <QCoreApplication>
+
+#include <iterator>
+
+namespace kelvra_worker {
+
+namespace {
+
+// In the order of AuditEvent. The words are stored: one that has been used keeps its meaning.
+const char *const words[] = {
+    QT_TRANSLATE_NOOP("AuditEvent", "login success"),
+    QT_TRANSLATE_NOOP("AuditEvent", "login failure"),
+    QT_TRANSLATE_NOOP("AuditEvent", "lock"),
+    QT_TRANSLATE_NOOP("AuditEvent", "add gesture"),
+    QT_TRANSLATE_NOOP("AuditEvent", "update gesture"),
+    QT_TRANSLATE_NOOP("AuditEvent", "delete gesture"),
+    QT_TRANSLATE_NOOP("AuditEvent", "open automatic login"),
+    QT_TRANSLATE_NOOP("AuditEvent", "cancel automatic login"),
+    QT_TRANSLATE_NOOP("AuditEvent", "get back password"),
+    QT_TRANSLATE_NOOP("AuditEvent", "reset password"),
+    QT_TRANSLATE_NOOP("AuditEvent", "export login credentials"),
+    QT_TRANSLATE_NOOP("AuditEvent", "create user"),
+};
+static_assert(std::size(words) == std::size_t(AuditEvent::CreateUser) + 1);
+
+} // namespace
+
+QString auditWord(AuditEvent event)
+{
+    return QLatin1String(words[int(event)]);
+}
+
+QString translatedAuditWord(const QString &word)
+{
+    return QCoreApplication::translate("AuditEvent", word.toUtf8().constData());
+}
+
+} // namespace kelvra_worker
