@@ -1,0 +1,88 @@
+#pragma once
+
+#include "host/kelvra_data/SuperUserInfo.h"
+#include "host/kelvra_saas/LoginWorker.h"
+#include "host/kelvra_worker/CustomizeInfo.h"
+#include "host/kelvra_worker/UserType.h"
+
+#include <QDateTime>
+#include <QMap>
+#include <QPair>
+#include <QStringList>
+#include <QVariant>
+#include <QVector>
+
+#include <functional>
+
+/**
+ * The host as the tests want it: it records every call of the module in order and answers what it has been told.
+ * Calls of the data, worker and cloud library are recorded as "operation(argument,argument)".
+ */
+struct FakeHost
+{
+    struct User
+    {
+        QString password;
+        QString gesture;
+        int attribute = 0;
+        bool superUser = false;
+        bool hasRecord = false;
+        bool autoLogin = false;
+        QDateTime lastLogin;
+    };
+
+    struct AutoLoginCall
+    {
+        QString requestId;
+        QString account;
+        QString password;
+        kelvra_saas::LoginWorker::AccountCallback answer;
+    };
+
+    /** The one fake host of the program. */
+    static FakeHost &get();
+
+    /** Back to the defaults below, with nothing recorded. */
+    void reset();
+
+    void record(const QString &operation, const QStringList &arguments);
+    /** The recorded calls whose operation is one of `operations`, in order; all calls when none is named. */
+    QStringList callsOf(const QStringList &operations) const;
+    /** A user with a login record of `daysAgo` days ago. */
+    User &rememberUser(const QString &name, const QString &password, int daysAgo = 1);
+
+    QStringList calls;
+
+    // Data library
+    bool firstLogin = false;
+    QMap<QString, User> users;
+    QString lastLocalUser;
+    bool lockKnown = true; // getLockInfo answers true
+    bool locked = false;
+    int lockSeconds = 0;
+    bool updatesSucceed = true; // updateLockInfo stores and answers true
+    bool addSuperUserSucceeds = true;
+    bool sameEnvironment = true;
+    bool credentialsValid = false;
+    kelvra_data::SuperUserInfo superUser;
+    kelvra_data::SuperUserInfo addedSuperUser;
+
+    // Worker library
+    bool loginSuccess = false;
+    kelvra_worker::UserType lastUserType = kelvra_worker::LocalUser;
+    QString currentUser;
+    QMap<QString, QVariant> settings;
+    kelvra_worker::CustomizeInfo customization;
+    int language = 0;
+    QVector<QPair<QString, QString>> alerts; // title, text
+    std::function<void()> whileAlertIsOpen;
+
+    // Cloud library
+    QString recentAccount;
+    QVector<AutoLoginCall> autoLogins;
+
+    // What would block
+    QString chosenFile;
+    QStringList messageBoxes;
+    std::function<void()> whileMessageBoxIsOpen;
+};

@@ -1,0 +1,362 @@
+#include "client/kelvra_base/AlertBox.h"
+#include "host/ZCommon/MoveableDialog.h"
+#include "host/ZCommon/SmoothProgress.h"
+#include "host/ZCommon/ToolsCollection.h"
+#include "host/ZCommon/ZLabel.h"
+#include "host/ZCommon/ZWidget.h"
+#include "host/kelvra_base/CapsLockToolTipHandler.h"
+#include "host/kelvra_base/ComboBox.h"
+#include "host/kelvra_base/ModuleInitialization.h"
+#include "host/kelvra_base/PwdStrengthWt.h"
+
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPointer>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTemporaryFile>
+#include <QTimer>
+#include <QToolTip>
+#include <QtTest>
+
+using namespace kelvra_base;
+using namespace ZCOMMON;
+
+namespace {
+
+class Frame : public CommonDialog
+{
+public:
+    Frame()
+        : CommonDialog(nullptr, 0, 1)
+    {
+    }
+    void quitSystem() override { ++quits; }
+
+    int quits = 0;
+};
+
+class Module : public ModuleInitialization
+{
+public:
+    Module()
+        : ModuleInitialization(nullptr)
+    {
+    }
+    using ModuleInitialization::loadStyleSheet;
+};
+
+/** A dialog of 300x200 with a panel and, on the panel, a default button and a line edit with the focus. */
+QDialog *createDialog(bool framed)
+{
+    auto *dialog = framed ? static_cast<QDialog *>(new Frame) : new MoveableDialog(nullptr, QString(), Qt::black);
+    dialog->resize(300, 200);
+    auto *panel = new ZWidget(dialog);
+    panel->setGeometry(0, 50, 300, 150);
+    auto *button = new QPushButton("button", panel);
+    button->setObjectName("button");
+    button->setGeometry(10, 10, 80, 30);
+    button->setDefault(true);
+    auto *edit = new QLineEdit(panel);
+    edit->setGeometry(10, 60, 80, 30);
+    edit->setFocus();
+    return dialog;
+}
+
+/** What the spy has heard since the last call. */
+QVector<int> taken(QSignalSpy &spy)
+{
+    QVector<int> values;
+    while (!spy.isEmpty())
+        values.append(spy.takeFirst().at(0).toInt());
+    return values;
+}
+
+} // namespace
+
+class TestToolkit : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void dialogFollowsDrag_data()
+    {
+        QTest::addColumn<bool>("framed");
+        QTest::addColumn<QPoint>("press");
+        QTest::addColumn<int>("button");
+        QTest::addColumn<bool>("moves");
+        QTest::newRow("surface") << false << QPoint(150, 20) << int(Qt::LeftButton) << true;
+        QTest::newRow("panel") << false << QPoint(200, 120) << int(Qt::LeftButton) << true;
+        QTest::newRow("button") << false << QPoint(40, 75) << int(Qt::LeftButton) << false;
+        QTest::newRow("line edit") << false << QPoint(40, 125) << int(Qt::LeftButton) << false;
+        QTest::newRow("right button") << false << QPoint(150, 20) << int(Qt::RightButton) << false;
+        QTest::newRow("title bar") << true << QPoint(150, 20) << int(Qt::LeftButton) << true;
+        QTest::newRow("below the bar") << true << QPoint(200, 120) << int(Qt::LeftButton) << false;
+    }
+
+    void dialogFollowsDrag()
+    {
+        QFETCH(bool, framed);
+        QFETCH(QPoint, press);
+        QFETCH(int, button);
+        QFETCH(bool, moves);
+        const QScopedPointer<QDialog> dialog(createDialog(framed));
+        dialog->move(100, 100);
+        dialog->show();
+        QVERIFY(QTest::qWaitForWindowExposed(dialog.data()));
+        const QPoint start = dialog->pos();
+
+        QWindow *const window = dialog->windowHandle();
+        QTest::mousePress(window, Qt::MouseButton(button), {}, press);
+        QTest::mouseMove(window, press + QPoint(30, 20));
+        QCOMPARE(dialog->pos(), moves ? start + QPoint(30, 20) : start);
+        QTest::mouseMove(window, press + QPoint(-5, 0));
+        QTest::mouseRelease(window, Qt::MouseButton(button), {}, press);
+        const QPoint end = dialog->pos();
+        QCOMPARE(end, moves ? start + QPoint(25, 20) : start);
+        QTest::mouseMove(window, press + QPoint(50, 30));
+        QCOMPARE(dialog->pos(), end);
+    }
+
+    void enterPressesNothingByItself()
+    {
+        for (const bool framed : {false, true}) {
+            const QScopedPointer<QDialog> dialog(createDialog(framed));
+            dialog->show();
+            QVERIFY(QTest::qWaitForWindowActive(dialog.data()));
+            QSignalSpy clicked(dialog->findChild<QPushButton *>("button"), &QPushButton::clicked);
+            QTest::keyClick(dialog->windowHandle(), Qt::Key_Return);
+            QTest::keyClick(dialog->windowHandle(), Qt::Key_Enter, Qt::KeypadModifier);
+            QCOMPARE(clicked.count(), 0);
+            QVERIFY(dialog->isVisible());
+        }
+    }
+
+    void everyWayOfClosingQuitsTheFrame()
+    {
+        Frame frame;
+        frame.resize(300, 200);
+        frame.show();
+        QVERIFY(QTest::qWaitForWindowActive(&frame));
+        QTest::keyClick(frame.windowHandle(), Qt::Key_Escape);
+        QCOMPARE(frame.quits, 1);
+        const QPoint closeBt = frame.findChild<QPushButton *>("closeBt")->geometry().center();
+        QTest::mouseClick(frame.windowHandle(), Qt::LeftButton, {}, closeBt);
+        QCOMPARE(frame.quits, 2);
+        frame.windowHandle()->close(); // as the window system asks for it
+        QCOMPARE(frame.quits, 3);
+        QVERIFY(frame.isVisible());
+        frame.CommonDialog::quitSystem();
+        QVERIFY(frame.isHidden());
+    }
+
+    void defaultPosIsForTheFirstShow()
+    {
+        MoveableDialog dialog(nullptr, QString(), Qt::black);
+        dialog.setDefaultPos({70, 50});
+        dialog.show();
+        QCOMPARE(dialog.pos(), QPoint(70, 50));
+        dialog.move(10, 20);
+        dialog.hide();
+        dialog.show();
+        QCOMPARE(dialog.pos(), QPoint(10, 20));
+    }
+
+    void progressGlides()
+    {
+        SmoothProgress progress;
+        QSignalSpy spy(&progress, &SmoothProgress::signalProgress);
+        progress.setCurrentProgress(60);
+        QCOMPARE(spy.count(), 0);
+        QTRY_VERIFY(spy.count() > 3);
+        progress.setCurrentProgress(100);
+        QTRY_COMPARE(spy.last().at(0).toInt(), 100);
+        const QVector<int> up = taken(spy);
+        QVERIFY(up.size() > 20);
+        QVERIFY(std::is_sorted(up.cbegin(), up.cend()));
+        QCOMPARE(std::adjacent_find(up.cbegin(), up.cend()), up.cend());
+
+        progress.setCurrentProgress(100); // there already
+        progress.setCurrentProgress(97);
+        QTRY_COMPARE(spy.count(), 3);
+        QCOMPARE(taken(spy), QVector<int>({99, 98, 97}));
+        progress.resetProgress();
+        progress.setCurrentProgress(1);
+        QTRY_COMPARE(spy.count(), 1);
+        QCOMPARE(taken(spy), QVector<int>({1}));
+    }
+
+    void progressDiesInItsSlot()
+    {
+        const QPointer<SmoothProgress> progress = new SmoothProgress;
+        connect(progress.data(), &SmoothProgress::signalProgress, this, [&] { delete progress; });
+        progress->setCurrentProgress(100);
+        QTRY_VERIFY(!progress);
+    }
+
+    void strength_data()
+    {
+        QTest::addColumn<QString>("pwd");
+        QTest::addColumn<int>("grade");
+        QTest::newRow("empty") << "" << int(PwdLengthIllegal);
+        QTest::newRow("7 characters") << "Abcde1!" << int(PwdLengthIllegal);
+        QTest::newRow("17 characters") << "Abcdefghijklmno1!" << int(PwdLengthIllegal);
+        QTest::newRow("16 characters") << "Abcdefghijklmn1!" << int(PwdStrong);
+        QTest::newRow("a blank is no kind") << "abcd efgh" << int(PwdTooSimple);
+        QTest::newRow("two kinds") << "abcdefg1" << int(PwdWeak);
+        QTest::newRow("three kinds") << "Abcdefg1" << int(PwdMedium);
+        QTest::newRow("surrogates count twice") << QString::fromUtf8("abcdef\U0001F600") << int(PwdWeak);
+    }
+
+    void strength()
+    {
+        QFETCH(QString, pwd);
+        QFETCH(int, grade);
+        PwdStrengthWt meter;
+        meter.resize(200, 10);
+        const QImage track = meter.grab().toImage();
+        QCOMPARE(int(meter.setPwd(pwd)), grade);
+        QCOMPARE(meter.grab().toImage() == track, pwd.isEmpty());
+    }
+
+    void reversed()
+    {
+        QCOMPARE(ToolsCollection::reverseString(QString::fromUtf8("ab\U0001F600\U0001F511z")),
+                 QString::fromUtf8("z\U0001F511\U0001F600ba"));
+    }
+
+    void styleSheetIsLoadedOnce()
+    {
+        QTemporaryFile first;
+        QTemporaryFile second;
+        QVERIFY(first.open() && first.write("QLabel{margin:1px}") > 0 && first.flush());
+        QVERIFY(second.open() && second.write("QLabel{margin:2px}") > 0 && second.flush());
+        qApp->setStyleSheet("QLabel{color:red}");
+        Module module;
+        for (const QFile *file : {&first, &second, &first})
+            module.loadStyleSheet(file->fileName());
+        const QString sheet = qApp->styleSheet();
+        QCOMPARE(sheet, QString("QLabel{color:red}\nQLabel{margin:1px}\nQLabel{margin:2px}"));
+
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("cannot be read"));
+        module.loadStyleSheet(":/none.qss");
+        QCOMPARE(qApp->styleSheet(), sheet);
+        qApp->setStyleSheet(QString());
+        module.loadStyleSheet(second.fileName());
+        QCOMPARE(qApp->styleSheet(), sheet.mid(sheet.indexOf('\n')));
+        qApp->setStyleSheet(QString());
+    }
+
+    void labelIsElided()
+    {
+        const QString text = "a title that is far too long for its label";
+        ZLabel label;
+        label.setText(text);
+        label.resize(80, 20);
+        QVERIFY(label.sizeHint().width() > 80 && label.minimumSizeHint().width() < 80);
+        QLabel shown(label.fontMetrics().elidedText(text, Qt::ElideRight, 80));
+        shown.resize(80, 20);
+        QCOMPARE(label.grab().toImage(), shown.grab().toImage());
+        QCOMPARE(label.toolTip(), text);
+        QCOMPARE(label.text(), text);
+        label.resize(label.sizeHint());
+        (void)label.grab(); // delivers the resize
+        QCOMPARE(label.toolTip(), QString());
+    }
+
+    void capsLockTip()
+    {
+        QWidget window;
+        auto *field = new QWidget(&window);
+        auto *edit = new QLineEdit(field);
+        auto *other = new QLineEdit(&window);
+        new CapsLockToolTipHandler(&window, edit, field);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        edit->setFocus();
+        QTest::keyClick(edit, 'a');
+        QTest::keyClick(edit, 'A', Qt::ShiftModifier);
+        QVERIFY(!QToolTip::isVisible());
+        QTest::keyClick(edit, 'A');
+        QCOMPARE(QToolTip::text(), QString("Caps Lock is on"));
+        QTest::keyClick(edit, Qt::Key_CapsLock);
+        QTRY_VERIFY(!QToolTip::isVisible());
+        QTest::keyClick(edit, Qt::Key_CapsLock);
+        QVERIFY(QToolTip::isVisible());
+        other->setFocus();
+        QTRY_VERIFY(!QToolTip::isVisible());
+        edit->setFocus();
+        QTRY_VERIFY(QToolTip::isVisible());
+    }
+
+    void alertAnswers_data()
+    {
+        QTest::addColumn<int>("buttons");
+        QTest::addColumn<QVector<int>>("keys");
+        QTest::addColumn<int>("answer");
+        const int both = OkButton | CancelButton;
+        QTest::newRow("return") << int(OkButton) << QVector<int>{Qt::Key_Return} << int(OkButton);
+        QTest::newRow("enter of two") << both << QVector<int>{Qt::Key_Enter} << int(OkButton);
+        QTest::newRow("escape alone") << int(OkButton) << QVector<int>{Qt::Key_Escape} << int(OkButton);
+        QTest::newRow("escape of two") << both << QVector<int>{Qt::Key_Escape} << int(CancelButton);
+        QTest::newRow("return on cancel") << both << QVector<int>{Qt::Key_Tab, Qt::Key_Return} << int(CancelButton);
+        QTest::newRow("by itself") << both << QVector<int>{} << int(CancelButton);
+    }
+
+    void alertAnswers()
+    {
+        QFETCH(int, buttons);
+        QFETCH(QVector<int>, keys);
+        QFETCH(int, answer);
+        QWidget owner;
+        owner.setGeometry(100, 100, 700, 500);
+        owner.show();
+        int clicks = 0;
+        QTimer::singleShot(0, this, [&] {
+            auto *box = QApplication::activeModalWidget();
+            QVERIFY(QTest::qWaitForWindowActive(box));
+            QCOMPARE(box->findChild<QLabel *>("text")->textFormat(), Qt::PlainText);
+            QVERIFY((box->geometry().center() - owner.geometry().center()).manhattanLength() < 4);
+            for (const char *name : {"okBt", "cancelBt"}) {
+                if (auto *button = box->findChild<QPushButton *>(name))
+                    connect(button, &QPushButton::clicked, this, [&] { ++clicks; });
+            }
+            // A key held down on the page behind answers nothing.
+            QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, {}, QString(), true);
+            QApplication::sendEvent(box->focusWidget(), &held);
+            QCOMPARE(clicks, 0);
+            for (const int key : keys)
+                QTest::keyClick(box->windowHandle(), Qt::Key(key));
+        });
+        const int seconds = keys.isEmpty() ? 1 : 5; // the latter only ends a failed check
+        QCOMPARE(int(AlertBox::ask(&owner, AlertBox::Warning, "title", "text", buttons, seconds)), answer);
+        QCOMPARE(clicks, 1);
+    }
+
+    void alertLosesItsParent()
+    {
+        auto *owner = new QWidget;
+        QTimer::singleShot(0, owner, [owner] { delete owner; });
+        QCOMPARE(AlertBox::ask(owner, AlertBox::Error, "title", "text", OkButton | CancelButton), CancelButton);
+    }
+
+    void comboBoxPicksFromItsList()
+    {
+        ComboBox box;
+        box.addItem("one", 11);
+        box.addItem("two", 22);
+        QListWidget *const list = box.getListWt();
+        list->setStyleSheet("QListWidget{border:0px;} QListWidget::item{min-height:40px;}");
+        box.show();
+        box.showPopup();
+        QVERIFY(QTest::qWaitForWindowExposed(list->window()));
+        const QRect second = list->visualItemRect(list->item(1));
+        QVERIFY(second.height() >= 40 && list->viewport()->rect().contains(second));
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, second.center());
+        QCOMPARE(box.currentData().toInt(), 22);
+        QTRY_VERIFY(list->window()->isHidden());
+    }
+};
+
+QTEST_MAIN(TestToolkit)
+#include "tst_toolkit.moc"
