@@ -134,10 +134,9 @@ bool Vault::unlock(const QString &path)
                                    subkeyContext, master);
         sodium_mprotect_readonly(keys);
         decoy = seal(toText(randomBytes(fingerprintBytes)), decoyPlace());
-        decoyHash = sealHash(toText(randomBytes(fingerprintBytes)), decoyPlace());
     }
     sodium_free(master);
-    if (decoyHash.isEmpty())
+    if (decoy.isEmpty())
         lock();
     return isUnlocked();
 }
@@ -211,6 +210,9 @@ QByteArray Vault::sealHash(const QString &text, const QByteArray &place) const
 
 bool Vault::matchesHash(const QByteArray &sealed, const QByteArray &place, const QString &text) const
 {
+    // Made by the first comparison, whoever it is for: a start has no time for it.
+    if (decoyHash.isEmpty())
+        decoyHash = sealHash(toText(randomBytes(fingerprintBytes)), decoyPlace());
     const bool known = !sealed.isEmpty();
     QString stored;
     const bool opened = open(known ? sealed : decoyHash, known ? place : decoyPlace(), stored);

@@ -56,8 +56,8 @@ private:
     struct Keys;
 
     Keys *keys = nullptr;
-    QByteArray decoy;     ///< sealed, opened in place of a value that is not there
-    QByteArray decoyHash; ///< the same for sealHash
+    QByteArray decoy;             ///< sealed, opened in place of a value that is not there
+    mutable QByteArray decoyHash; ///< the same for sealHash
 };
 
 } // namespace kelvra_data
