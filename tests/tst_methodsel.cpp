@@ -1,34 +1,23 @@
-#include "fakehost/FakeHost.h"
+#include "fakehost/Brackets.h"
 #include "host/kelvra_worker/DictDef.h"
 #include "login/frame/LoginSignals.h"
 #include "login/superuser/LoginMethodBt.h"
 #include "login/superuser/LoginMethodSelWt.h"
 
 #include <QLabel>
-#include <QSignalSpy>
-#include <QTranslator>
-#include <QVBoxLayout>
+#include <QLayout>
 #include <QtTest>
 
 using namespace kelvra_login;
+using kelvra_worker::DictDef;
 
 namespace {
 
-const QString notAvailable = QStringLiteral("Local default superuser is not available");
+FakeHost &host = FakeHost::get();
 
-class Brackets : public QTranslator
+QString texts(const LoginMethodBt *button)
 {
-public:
-    bool isEmpty() const override { return false; }
-    QString translate(const char *, const char *text, const char *, int) const override
-    {
-        return QString("[%1]").arg(text);
-    }
-};
-
-QStringList texts(const LoginMethodBt &button)
-{
-    return {button.findChild<QLabel *>("title")->text(), button.findChild<QLabel *>("detail")->text()};
+    return button->findChild<QLabel *>("title")->text() + '|' + button->findChild<QLabel *>("detail")->text();
 }
 
 } // namespace
@@ -41,16 +30,15 @@ private slots:
     void initTestCase()
     {
         // Among the host's calls, so that the order of both shows.
-        const LoginSignals &hub = LoginSignals::_instance();
-        connect(&hub, &LoginSignals::signalLoginEvent, this, [this](LoginEvent event, const QStringList &params) {
+        const auto &hub = LoginSignals::_instance();
+        connect(&hub, &LoginSignals::signalLoginEvent, this, [](LoginEvent event, const QStringList &params) {
             host.record("signalLoginEvent", QStringList(QString::number(event)) + params);
         });
-        connect(&hub, &LoginSignals::signalSaasLoginEvent, this, [this](SaasLoginEvent event) {
-            host.record("signalSaasLoginEvent", {QString::number(event)});
-        });
+        connect(&hub, &LoginSignals::signalSaasLoginEvent, this,
+                [](SaasLoginEvent event) { host.record("signalSaasLoginEvent", {QString::number(event)}); });
         connect(&hub, &LoginSignals::signalDefaultLocalSuperUserMethodSelected, this,
-                [this](const QString &userName, const QString &pwd) {
-                    host.record("signalDefaultLocalSuperUserMethodSelected", {userName, pwd});
+                [](const QString &userName, const QString &pwd) {
+                    host.record("fillIn", {userName, pwd});
                 });
     }
 
@@ -63,167 +51,113 @@ private slots:
 
     void cleanup() { page.reset(); }
 
-    void texts_data()
+    void textsOfTheMethods()
     {
-        QTest::addColumn<int>("method");
-        QTest::addColumn<QStringList>("shown");
-        const QStringList cloud = {"Login Nimbra App User", "Login via phone number or scan QR code"};
-        QTest::newRow("default") << 0
-                                 << QStringList{"Use Default Superuser", "User:admin Password:468024, low security"};
-        QTest::newRow("new") << 1
-                             << QStringList{"Create New Superuser", "Customize user and password, high security"};
-        QTest::newRow("cloud") << 2 << cloud;
-        QTest::newRow("other") << 7 << cloud;
+        const QString cloud = "Login Nimbra App User|Login via phone number or scan QR code";
+        QCOMPARE(texts(defaultUserBt()), QString("Use Default Superuser|User:admin Password:468024, low security"));
+        QCOMPARE(texts(newUserBt()), QString("Create New Superuser|Customize user and password, high security"));
+        QCOMPARE(texts(saasUserBt()), cloud);
+        newUserBt()->setMethod(7);
+        QCOMPARE(texts(newUserBt()), cloud);
+        const QSignalSpy clicked(newUserBt(), &LoginMethodBt::signalClicked);
+        QTest::mouseClick(newUserBt(), Qt::LeftButton);
+        QCOMPARE(clicked.value(0), QVariantList{7});
     }
 
-    void texts()
+    void textsFollowTheLanguage()
     {
-        QFETCH(int, method);
-        QFETCH(QStringList, shown);
-        LoginMethodBt bt;
-        bt.setMethod(method);
-        QCOMPARE(::texts(bt), shown);
-        QCOMPARE(bt.objectName(), QStringLiteral("kelvra_login__LoginMethodBt"));
-        QCOMPARE(bt.layout()->contentsMargins(), QMargins(58, 0, 32, 0));
-        const QSignalSpy clicked(&bt, &LoginMethodBt::signalClicked);
-        QTest::mouseClick(&bt, Qt::LeftButton);
-        QCOMPARE(QList<QVariantList>(clicked), QList<QVariantList>({{method}}));
-        if (method < 3)
-            QCOMPARE(::texts(*buttons().at(method)), shown);
+        const Brackets brackets;
+        QCOMPARE(texts(defaultUserBt()), QString("[Use Default Superuser]|[User:admin Password:468024, low security]"));
+        QCOMPARE(texts(newUserBt()), QString("[Create New Superuser]|[Customize user and password, high security]"));
+        QCOMPARE(texts(saasUserBt()), QString("[Login Nimbra App User]|[Login via phone number or scan QR code]"));
+        QCOMPARE(page->findChild<QLabel *>("label")->text(), QString("[Welcome to login]"));
     }
 
-    void cloudRule()
+    void buttonsWithoutCloudLoginSitLower()
     {
-        const int top = button("defaultUserBt")->y();
-        QCOMPARE(column()->contentsMargins(), QMargins(0, 0, 0, 0));
-        QVERIFY(button("saasUserBt")->isVisible());
+        const auto margins = [this] {
+            return page->findChild<QLayout *>("verticalLayout_2")
+                ->findChild<QLayout *>("verticalLayout")
+                ->contentsMargins();
+        };
+        const int top = defaultUserBt()->y();
+        QCOMPARE(margins(), QMargins(0, 0, 0, 0));
+        QVERIFY(saasUserBt()->isVisible());
         host.customization.cloudLoginEnabled = false;
         open();
-        QCOMPARE(column()->contentsMargins(), QMargins(0, 54, 0, 0));
-        QCOMPARE(button("defaultUserBt")->y(), top + 54);
-        QVERIFY(button("defaultUserBt")->isVisible() && button("newUserBt")->isVisible());
-        QVERIFY(!button("saasUserBt")->isVisible());
+        QCOMPARE(margins(), QMargins(0, 54, 0, 0));
+        QCOMPARE(defaultUserBt()->y(), top + 54);
+        QCOMPARE(newUserBt()->y(), top + 54 + 80);
+        QVERIFY(defaultUserBt()->isVisible() && newUserBt()->isVisible() && !saasUserBt()->isVisible());
     }
 
-    void buttonsLook()
+    void buttonsShowPictures()
     {
-        QCOMPARE(page->findChild<QLabel *>("label")->text(), QStringLiteral("Welcome to login"));
-        int y = 0;
-        for (LoginMethodBt *bt : buttons()) {
-            QCOMPARE(bt->size(), QSize(275, 54));
-            QVERIFY(y == 0 || bt->y() == y + 54 + 26);
-            y = bt->y();
-            QTest::mouseMove(page.get(), QPoint(1, 1));
-            const QImage normal = bt->grab().toImage();
-            QTest::mouseMove(bt);
-            QVERIFY(bt->grab().toImage() != normal);
-            QTest::mouseClick(bt, Qt::LeftButton);
-            QVERIFY(!bt->hasFocus());
+        QList<QImage> pictures;
+        for (LoginMethodBt *button : {defaultUserBt(), newUserBt(), saasUserBt()}) {
+            QCOMPARE(button->size(), QSize(275, 54));
+            for (QWidget *pointedAt : {static_cast<QWidget *>(page.get()), static_cast<QWidget *>(button)}) {
+                QTest::mouseMove(pointedAt, pointedAt == button ? QPoint() : QPoint(1, 1));
+                const QImage picture = button->grab(QRect(0, 0, 50, 54)).toImage(); // left of the texts
+                QVERIFY(!pictures.contains(picture));
+                pictures << picture;
+            }
+            QTest::mouseClick(button, Qt::LeftButton);
+            QTest::keyClick(page.get(), Qt::Key_Tab);
+            QVERIFY(!button->hasFocus());
         }
-        for (LoginMethodBt *bt : buttons()) { // three pictures, not one
-            for (LoginMethodBt *other : buttons())
-                QVERIFY(bt == other || picture(bt) != picture(other));
-        }
-        QTest::keyClick(page.get(), Qt::Key_Tab);
-        QVERIFY(!qobject_cast<LoginMethodBt *>(page->focusWidget()));
-    }
-
-    void choices_data()
-    {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QStringList>("calls");
-        QTest::newRow("default") << "defaultUserBt"
-                                 << QStringList{"addSuperUser(admin)", "signalLoginEvent(0,admin,468024)",
-                                                "signalDefaultLocalSuperUserMethodSelected(admin,468024)",
-                                                "updateLoginEnvironment()"};
-        QTest::newRow("new") << "newUserBt" << QStringList{"signalLoginEvent(2)", "updateLoginEnvironment()"};
-        QTest::newRow("cloud") << "saasUserBt"
-                               << QStringList{"signalLoginEvent(0)", "signalSaasLoginEvent(0)",
-                                              "setLastLoggedInUserType(2)", "updateLoginEnvironment()"};
     }
 
     void choices()
     {
-        QFETCH(QString, name);
-        QTest::mouseClick(button(name), Qt::LeftButton);
-        QTEST(host.calls, "calls");
-    }
-
-    void defaultSuperUserRecord()
-    {
-        QTest::mouseClick(button("defaultUserBt"), Qt::LeftButton);
-        const kelvra_data::SuperUserInfo &added = host.addedSuperUser;
-        QCOMPARE(QStringList({added.userName, added.password, added.displayName, added.remark, added.answer1,
-                              added.answer2, added.answer3}),
-                 QStringList({"admin", "468024", "", "", "468024", "468024", "468024"}));
+        QCOMPARE(choose(newUserBt()), QString("signalLoginEvent(2) updateLoginEnvironment()"));
+        QCOMPARE(choose(saasUserBt()), QString("signalLoginEvent(0) signalSaasLoginEvent(0) "
+                                               "setLastLoggedInUserType(2) updateLoginEnvironment()"));
+        QCOMPARE(choose(defaultUserBt()), QString("addSuperUser(admin) signalLoginEvent(0,admin,468024) "
+                                                  "fillIn(admin,468024) updateLoginEnvironment()"));
+        const auto &added = host.addedSuperUser;
+        QCOMPARE(QStringList({added.userName, added.password, added.answer1, added.answer2, added.answer3}),
+                 QStringList({"admin", "468024", "468024", "468024", "468024"}));
+        QVERIFY(added.displayName.isEmpty() && added.remark.isEmpty());
         QCOMPARE(QList<int>({added.role, added.id, added.question1, added.question2, added.question3}),
                  QList<int>({0, -1, 0, 1, 2}));
     }
 
     void refusedDefaultSuperUser()
     {
-        const QStringList refused = {"addSuperUser(admin)", "messageAlert(" + notAvailable + ")",
-                                     "updateLoginEnvironment()"};
+        const QString refused = "addSuperUser(admin) messageAlert(Local default superuser is not available) "
+                                "updateLoginEnvironment()";
         host.addSuperUserSucceeds = false;
-        QTest::mouseClick(button("defaultUserBt"), Qt::LeftButton);
-        QCOMPARE(host.calls, refused);
-        const auto &dictionary = kelvra_worker::DictDef::_instance();
-        QCOMPARE(host.alerts.first().first, dictionary.alertTitle(kelvra_worker::DictDef::WarningTitle));
-        QTest::mouseClick(button("defaultUserBt"), Qt::LeftButton);
-        QCOMPARE(host.calls, refused + refused);
-
-        host.calls.clear();
+        QCOMPARE(choose(defaultUserBt()), refused);
+        QCOMPARE(host.alerts.first().first, DictDef::_instance().alertTitle(DictDef::WarningTitle));
+        QCOMPARE(choose(defaultUserBt()), refused);
         host.addSuperUserSucceeds = true;
-        QTest::mouseClick(button("defaultUserBt"), Qt::LeftButton);
-        QCOMPARE(host.calls.size(), 4);
+        QVERIFY(choose(defaultUserBt()).contains("fillIn(admin,468024)"));
 
-        host.calls.clear();
         host.addSuperUserSucceeds = false;
         host.whileAlertIsOpen = [this] { page.reset(); };
-        QTest::mouseClick(button("defaultUserBt"), Qt::LeftButton);
+        QCOMPARE(choose(defaultUserBt()), refused);
         QVERIFY(!page);
-        QCOMPARE(host.calls, refused);
-    }
-
-    void languageChange()
-    {
-        const QStringList before = ::texts(*button("newUserBt"));
-        Brackets brackets;
-        QVERIFY(QCoreApplication::installTranslator(&brackets));
-        QCoreApplication::sendPostedEvents();
-        QCOMPARE(::texts(*button("newUserBt")), QStringList({"[" + before[0] + "]", "[" + before[1] + "]"}));
-        QCOMPARE(::texts(*button("defaultUserBt")).first(), QStringLiteral("[Use Default Superuser]"));
-        QCOMPARE(::texts(*button("saasUserBt")).first(), QStringLiteral("[Login Nimbra App User]"));
-        QCOMPARE(page->findChild<QLabel *>("label")->text(), QStringLiteral("[Welcome to login]"));
-        QVERIFY(QCoreApplication::removeTranslator(&brackets));
-        QCoreApplication::sendPostedEvents();
-        QCOMPARE(::texts(*button("newUserBt")), before);
     }
 
 private:
     void open()
     {
         page = std::make_unique<LoginMethodSelWt>(nullptr);
-        QCOMPARE(page->size(), QSize(302, 685));
         page->show();
         QVERIFY(QTest::qWaitForWindowActive(page.get()));
     }
 
-    LoginMethodBt *button(const QString &name) const { return page->findChild<LoginMethodBt *>(name); }
-    QList<LoginMethodBt *> buttons() const
+    LoginMethodBt *defaultUserBt() const { return page->findChild<LoginMethodBt *>("defaultUserBt"); }
+    LoginMethodBt *newUserBt() const { return page->findChild<LoginMethodBt *>("newUserBt"); }
+    LoginMethodBt *saasUserBt() const { return page->findChild<LoginMethodBt *>("saasUserBt"); }
+
+    static QString choose(LoginMethodBt *button)
     {
-        return {button("defaultUserBt"), button("newUserBt"), button("saasUserBt")};
+        QTest::mouseClick(button, Qt::LeftButton);
+        return std::exchange(host.calls, {}).join(' ');
     }
 
-    QLayout *column() const
-    {
-        return page->findChild<QLayout *>("verticalLayout_2")->findChild<QLayout *>("verticalLayout");
-    }
-
-    // The left end, where a button has no text.
-    static QImage picture(LoginMethodBt *bt) { return bt->grab(QRect(0, 0, 50, bt->height())).toImage(); }
-
-    FakeHost &host = FakeHost::get();
     std::unique_ptr<LoginMethodSelWt> page;
 };
 

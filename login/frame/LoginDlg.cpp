@@ -27,6 +27,12 @@ constexpr int closeBtSize = 14;
 constexpr int closeBtMargin = 15; // to the dialog's top and right edge
 constexpr int loadedHalf = 50;    // percent: where loading stands once the login is accepted
 
+void announceQuit()
+{
+    emit SystemMsg::_instance().signalPrepareQuitSystem();
+    emit SystemMsg::_instance().signalQuitSystem();
+}
+
 } // namespace
 
 LoginDlg::LoginDlg(QWidget *parent)
@@ -65,29 +71,33 @@ void LoginDlg::createOverlays()
 
 void LoginDlg::quitSystem()
 {
-    if (ended)
+    if (hasEnded())
         return;
-    ended = true;
+    quitting = true;
     // Whoever hears that the client quits may take the dialog with it.
     const QPointer<LoginDlg> self(this);
-    emit SystemMsg::_instance().signalPrepareQuitSystem();
-    emit SystemMsg::_instance().signalQuitSystem();
+    announceQuit();
     if (self)
         reject();
 }
 
 void LoginDlg::quitWithMessage(const QString &message)
 {
+    if (hasEnded())
+        return;
     const QPointer<LoginDlg> self(this);
     if (!message.isEmpty())
         ZMessageBox::warning(this, message, kelvra_base::OkButton, false);
-    if (self)
+    // Loading may have ended the dialog under the open message; the client has to quit all the same.
+    if (!self || self->loaded)
+        announceQuit();
+    else
         quitSystem();
 }
 
 void LoginDlg::bringToFront()
 {
-    if (ended)
+    if (hasEnded())
         return;
     {
         // A pop-up that comes and goes lets a window of another foreground program be overtaken.
@@ -106,7 +116,7 @@ void LoginDlg::slotCloseBtClicked()
 
 void LoginDlg::slotLoginSuccess()
 {
-    if (ended)
+    if (hasEnded())
         return;
     ui->stackedWidget->setCurrentIndex(splashPage);
     logo->hide();
@@ -117,9 +127,9 @@ void LoginDlg::slotLoginSuccess()
 
 void LoginDlg::slotSystemLoadingFinished()
 {
-    if (ended)
+    if (hasEnded())
         return;
-    ended = true;
+    loaded = true;
     hide();
     emit SystemMsg::_instance().signalSystemInitFinished();
     deleteLater();

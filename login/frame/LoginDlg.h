@@ -41,6 +41,8 @@ protected:
 
 private:
     void createOverlays();
+    /** What arrives once the client quits or has loaded comes too late for the dialog. */
+    bool hasEnded() const { return quitting || loaded; }
     void quitSystem();
     void quitWithMessage(const QString &message);
     void bringToFront();
@@ -48,7 +50,8 @@ private:
     const std::unique_ptr<Ui::LoginDlg> ui;
     kelvra_base::LogoLabel *logo = nullptr;
     QPushButton *closeBt = nullptr;
-    bool ended = false; // quit or loaded: what arrives now comes too late
+    bool quitting = false;
+    bool loaded = false;
 };
 
 } // namespace kelvra_login

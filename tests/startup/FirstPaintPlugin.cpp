@@ -25,9 +25,9 @@ public:
 
     bool eventFilter(QObject *watched, QEvent *event) override
     {
+        // Not the window itself: one that its children cover is not painted.
         auto *widget = qobject_cast<QWidget *>(watched);
-        if (!painted && event->type() == QEvent::Paint && widget && widget->isWindow() &&
-            widget->width() >= loginWidth) {
+        if (!painted && event->type() == QEvent::Paint && widget && widget->window()->width() >= loginWidth) {
             painted = true;
             // The next turn: the window with its children has been painted and flushed by then.
             QTimer::singleShot(0, this, &FirstPaintWatch::report);
@@ -60,7 +60,7 @@ public:
     {
         if (name != QLatin1String("firstpaint"))
             return nullptr;
-        auto *watch = new FirstPaintWatch(qApp);
+        auto *watch = new FirstPaintWatch; // owned by the application
         qApp->installEventFilter(watch);
         return watch;
     }
