@@ -318,7 +318,9 @@ void TestStorage::environment()
 {
     QVERIFY(!users().isSameLoginEnvironment());
     QVERIFY(users().updateLoginEnvironment() && reopen() && users().isSameLoginEnvironment());
-    QVERIFY(!isReadable(QString::fromLatin1(QSysInfo::machineUniqueId()), contents(at())));
+    // A minimal installation has no machine id; its host name is too short to be searched for.
+    const QByteArray machine = QSysInfo::machineUniqueId();
+    QVERIFY(machine.isEmpty() || !isReadable(QString::fromLatin1(machine), contents(at())));
     QVERIFY(store().change("UPDATE state SET environment = randomblob(32)"));
     QVERIFY(!users().isSameLoginEnvironment());
 }

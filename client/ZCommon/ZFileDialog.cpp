@@ -16,7 +16,7 @@ QString ZFileDialog::getOpenFileName(QWidget *parent, const QString &caption, co
     const bool accepted = dialog->exec() == QDialog::Accepted;
     if (!dialog)
         return {};
-    const QString path = accepted ? dialog->selectedFiles().value(0) : QString();
+    QString path = accepted ? dialog->selectedFiles().value(0) : QString();
     if (accepted && selectedFilter)
         *selectedFilter = dialog->selectedNameFilter();
     delete dialog;

@@ -120,7 +120,7 @@ void AlertBox::setUpLayout(Icon icon, const QString &text)
     picture->setPixmap(QPixmap(iconPath(icon)));
     auto *label = new QLabel(this);
     label->setObjectName(QStringLiteral("text"));
-    label->setTextFormat(Qt::RichText);
+    label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
     label->setText(text);
     fitToText(label);

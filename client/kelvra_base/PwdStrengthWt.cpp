@@ -105,7 +105,8 @@ void PwdStrengthWt::paintEvent(QPaintEvent *)
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     const qreal segment = (width() - (segmentCount - 1) * segmentSpacing) / qreal(segmentCount);
-    QRectF place(0, (height() - barHeight) / 2, segment, barHeight);
+    const int top = (height() - barHeight) / 2;
+    QRectF place(0, top, segment, barHeight);
     for (int i = 0; i < segmentCount; ++i) {
         painter.setBrush(trackColor);
         painter.drawRoundedRect(place, barRadius, barRadius);

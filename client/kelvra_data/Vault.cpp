@@ -90,9 +90,10 @@ bool Vault::createKeyFile(const QString &path)
     const QString unfinished = path + QStringLiteral(".new");
     QByteArray key = randomBytes(keyFileBytes);
     QSaveFile file(unfinished);
+    // Flushed first: commit() takes no notice of what does not fit on the disk any more.
     bool written = !key.isEmpty() && file.open(QIODevice::WriteOnly) &&
                    file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner) &&
-                   file.write(key) == key.size() && file.commit();
+                   file.write(key) == key.size() && file.flush() && file.commit();
     wipe(key);
     if (written && !QFile::rename(unfinished, path)) {
         QFile::remove(unfinished);
