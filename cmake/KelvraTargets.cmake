@@ -3,7 +3,8 @@ add_library(kelvra_options INTERFACE)
 target_compile_definitions(kelvra_options INTERFACE QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY
                                                     QT_DEPRECATED_WARNINGS QT_MESSAGELOGCONTEXT)
 if(MSVC)
-    target_compile_options(kelvra_options INTERFACE /W4 /utf-8 $<$<BOOL:${KELVRA_WERROR}>:/WX>)
+    # 4251: private members of exported classes are nobody's interface.
+    target_compile_options(kelvra_options INTERFACE /W4 /wd4251 /utf-8 $<$<BOOL:${KELVRA_WERROR}>:/WX>)
 else()
     target_compile_options(kelvra_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow
                                                     $<$<BOOL:${KELVRA_WERROR}>:-Werror>)

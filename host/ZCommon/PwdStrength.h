@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QMetaType>
+
 namespace ZCOMMON {
 
 /** Grade of a new password. Any other value passes both rules, as the three named grades do. */
@@ -12,3 +14,5 @@ enum PwdStrength : int {
 };
 
 } // namespace ZCOMMON
+
+Q_DECLARE_METATYPE(ZCOMMON::PwdStrength)

@@ -9,9 +9,10 @@ namespace ZCOMMON {
  * A definition in this header would give each shared library an object of its own: always on Windows, and
  * wherever symbols are hidden.
  *
- * A class takes part in three steps: it derives from `ZSingleton<T>` and befriends it (its constructor is not
- * public), its header ends with `ZSINGLETON_DECLARE(EXPORT_MACRO, T)` outside every namespace, and one source
- * of the owning library holds `ZSINGLETON_DEFINE(T)` (or a specialisation of its own where construction needs
+ * A class takes part in three steps: its header declares the class, then `ZSINGLETON_DECLARE(EXPORT_MACRO, T)`
+ * outside every namespace, both before the class is defined (an exported class makes its base at once); the class
+ * derives from `ZSingleton<T>` and befriends it (its constructor is not public); and one source of the owning
+ * library holds `ZSINGLETON_DEFINE(T)` (or a specialisation of its own where construction needs
  * more than the default constructor), also outside every namespace.
  */
 template <typename T>

@@ -7,6 +7,12 @@
 #include <QString>
 
 namespace kelvra_contact {
+class SystemMsg;
+}
+
+ZSINGLETON_DECLARE(KELVRA_CONTACT_EXPORT, kelvra_contact::SystemMsg)
+
+namespace kelvra_contact {
 
 /** Client-wide signals. Anybody may emit them and listen to them, on the GUI thread. */
 class KELVRA_CONTACT_EXPORT SystemMsg : public QObject, public ZCOMMON::ZSingleton<SystemMsg>
@@ -42,5 +48,3 @@ private:
 };
 
 } // namespace kelvra_contact
-
-ZSINGLETON_DECLARE(KELVRA_CONTACT_EXPORT, kelvra_contact::SystemMsg)

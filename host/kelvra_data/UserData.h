@@ -12,6 +12,12 @@
 #include <memory>
 
 namespace kelvra_data {
+class UserData;
+}
+
+ZSINGLETON_DECLARE(KELVRA_DATA_EXPORT, kelvra_data::UserData)
+
+namespace kelvra_data {
 
 /**
  * The store of local users, their credentials, their login records and the lock of local login.
@@ -108,5 +114,3 @@ private:
 };
 
 } // namespace kelvra_data
-
-ZSINGLETON_DECLARE(KELVRA_DATA_EXPORT, kelvra_data::UserData)

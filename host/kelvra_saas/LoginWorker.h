@@ -14,6 +14,12 @@
 #include <memory>
 
 namespace kelvra_saas {
+class LoginWorker;
+}
+
+ZSINGLETON_DECLARE(KELVRA_SAAS_EXPORT, kelvra_saas::LoginWorker)
+
+namespace kelvra_saas {
 
 /**
  * Logins with the cloud service.
@@ -83,5 +89,3 @@ private:
 };
 
 } // namespace kelvra_saas
-
-ZSINGLETON_DECLARE(KELVRA_SAAS_EXPORT, kelvra_saas::LoginWorker)

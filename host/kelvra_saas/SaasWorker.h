@@ -8,6 +8,12 @@
 #include <memory>
 
 namespace kelvra_saas {
+class SaasWorker;
+}
+
+ZSINGLETON_DECLARE(KELVRA_SAAS_EXPORT, kelvra_saas::SaasWorker)
+
+namespace kelvra_saas {
 
 /** The countdown until another SMS code may be asked for; it outlives the pages that show it. */
 class KELVRA_SAAS_EXPORT SaasWorker : public QObject, public ZCOMMON::ZSingleton<SaasWorker>
@@ -35,5 +41,3 @@ private:
 };
 
 } // namespace kelvra_saas
-
-ZSINGLETON_DECLARE(KELVRA_SAAS_EXPORT, kelvra_saas::SaasWorker)

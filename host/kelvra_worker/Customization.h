@@ -5,6 +5,12 @@
 #include "host/kelvra_worker/CustomizeInfo.h"
 
 namespace kelvra_worker {
+class Customization;
+}
+
+ZSINGLETON_DECLARE(KELVRA_WORKER_EXPORT, kelvra_worker::Customization)
+
+namespace kelvra_worker {
 
 /** Access to the customisation of this delivery. */
 class KELVRA_WORKER_EXPORT Customization : public ZCOMMON::ZSingleton<Customization>
@@ -20,5 +26,3 @@ private:
 };
 
 } // namespace kelvra_worker
-
-ZSINGLETON_DECLARE(KELVRA_WORKER_EXPORT, kelvra_worker::Customization)

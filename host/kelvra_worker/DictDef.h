@@ -9,6 +9,12 @@
 #include <memory>
 
 namespace kelvra_worker {
+class DictDef;
+}
+
+ZSINGLETON_DECLARE(KELVRA_WORKER_EXPORT, kelvra_worker::DictDef)
+
+namespace kelvra_worker {
 
 /** Translated texts that several modules share. */
 class KELVRA_WORKER_EXPORT DictDef : public ZCOMMON::ZSingleton<DictDef>
@@ -43,5 +49,3 @@ private:
 };
 
 } // namespace kelvra_worker
-
-ZSINGLETON_DECLARE(KELVRA_WORKER_EXPORT, kelvra_worker::DictDef)

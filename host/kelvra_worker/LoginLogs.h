@@ -6,6 +6,12 @@
 #include <QString>
 
 namespace kelvra_worker {
+class LoginLogs;
+}
+
+ZSINGLETON_DECLARE(KELVRA_WORKER_EXPORT, kelvra_worker::LoginLogs)
+
+namespace kelvra_worker {
 
 /**
  * Audit entries. Each call writes one entry with the present time; none answers, since the module has nothing
@@ -39,5 +45,3 @@ private:
 };
 
 } // namespace kelvra_worker
-
-ZSINGLETON_DECLARE(KELVRA_WORKER_EXPORT, kelvra_worker::LoginLogs)

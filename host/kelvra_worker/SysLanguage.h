@@ -10,6 +10,12 @@
 #include <memory>
 
 namespace kelvra_worker {
+class SysLanguage;
+}
+
+ZSINGLETON_DECLARE(KELVRA_WORKER_EXPORT, kelvra_worker::SysLanguage)
+
+namespace kelvra_worker {
 
 /** The language of the user interface. */
 class KELVRA_WORKER_EXPORT SysLanguage : public ZCOMMON::ZSingleton<SysLanguage>
@@ -39,5 +45,3 @@ private:
 };
 
 } // namespace kelvra_worker
-
-ZSINGLETON_DECLARE(KELVRA_WORKER_EXPORT, kelvra_worker::SysLanguage)

@@ -6,6 +6,12 @@
 #include <QString>
 
 namespace kelvra_worker {
+class SystemAssistant;
+}
+
+ZSINGLETON_DECLARE(KELVRA_WORKER_EXPORT, kelvra_worker::SystemAssistant)
+
+namespace kelvra_worker {
 
 /** Alerts in the client's look. */
 class KELVRA_WORKER_EXPORT SystemAssistant : public ZCOMMON::ZSingleton<SystemAssistant>
@@ -25,5 +31,3 @@ private:
 };
 
 } // namespace kelvra_worker
-
-ZSINGLETON_DECLARE(KELVRA_WORKER_EXPORT, kelvra_worker::SystemAssistant)

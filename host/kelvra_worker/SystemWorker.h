@@ -9,6 +9,12 @@
 #include <memory>
 
 namespace kelvra_worker {
+class SystemWorker;
+}
+
+ZSINGLETON_DECLARE(KELVRA_WORKER_EXPORT, kelvra_worker::SystemWorker)
+
+namespace kelvra_worker {
 
 /** The client-wide state of who is logged in. */
 class KELVRA_WORKER_EXPORT SystemWorker : public ZCOMMON::ZSingleton<SystemWorker>
@@ -54,5 +60,3 @@ private:
 };
 
 } // namespace kelvra_worker
-
-ZSINGLETON_DECLARE(KELVRA_WORKER_EXPORT, kelvra_worker::SystemWorker)

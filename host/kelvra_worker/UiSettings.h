@@ -9,6 +9,12 @@
 #include <memory>
 
 namespace kelvra_worker {
+class UiSettings;
+}
+
+ZSINGLETON_DECLARE(KELVRA_WORKER_EXPORT, kelvra_worker::UiSettings)
+
+namespace kelvra_worker {
 
 /**
  * Persistent settings of the user interface.
@@ -34,5 +40,3 @@ private:
 };
 
 } // namespace kelvra_worker
-
-ZSINGLETON_DECLARE(KELVRA_WORKER_EXPORT, kelvra_worker::UiSettings)

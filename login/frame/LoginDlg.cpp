@@ -13,6 +13,8 @@
 #include <QPointer>
 #include <QPushButton>
 
+#include <utility>
+
 using kelvra_base::LogoLabel;
 using kelvra_base::ZMessageBox;
 using kelvra_contact::SystemMsg;
@@ -27,8 +29,10 @@ constexpr int closeBtSize = 14;
 constexpr int closeBtMargin = 15; // to the dialog's top and right edge
 constexpr int loadedHalf = 50;    // percent: where loading stands once the login is accepted
 
-void announceQuit()
+void announceQuit(bool &announced)
 {
+    if (std::exchange(announced, true))
+        return;
     emit SystemMsg::_instance().signalPrepareQuitSystem();
     emit SystemMsg::_instance().signalQuitSystem();
 }
@@ -73,10 +77,10 @@ void LoginDlg::quitSystem()
 {
     if (hasEnded())
         return;
-    quitting = true;
     // Whoever hears that the client quits may take the dialog with it.
     const QPointer<LoginDlg> self(this);
-    announceQuit();
+    const std::shared_ptr<bool> announced = quitAnnounced;
+    announceQuit(*announced);
     if (self)
         reject();
 }
@@ -86,11 +90,12 @@ void LoginDlg::quitWithMessage(const QString &message)
     if (hasEnded())
         return;
     const QPointer<LoginDlg> self(this);
+    const std::shared_ptr<bool> announced = quitAnnounced;
     if (!message.isEmpty())
         ZMessageBox::warning(this, message, kelvra_base::OkButton, false);
     // Loading may have ended the dialog under the open message; the client has to quit all the same.
     if (!self || self->loaded)
-        announceQuit();
+        announceQuit(*announced);
     else
         quitSystem();
 }
@@ -116,7 +121,7 @@ void LoginDlg::slotCloseBtClicked()
 
 void LoginDlg::slotLoginSuccess()
 {
-    if (hasEnded())
+    if (hasEnded() || ui->stackedWidget->currentIndex() == splashPage)
         return;
     ui->stackedWidget->setCurrentIndex(splashPage);
     logo->hide();

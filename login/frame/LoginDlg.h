@@ -42,7 +42,7 @@ protected:
 private:
     void createOverlays();
     /** What arrives once the client quits or has loaded comes too late for the dialog. */
-    bool hasEnded() const { return quitting || loaded; }
+    bool hasEnded() const { return *quitAnnounced || loaded; }
     void quitSystem();
     void quitWithMessage(const QString &message);
     void bringToFront();
@@ -50,7 +50,8 @@ private:
     const std::unique_ptr<Ui::LoginDlg> ui;
     kelvra_base::LogoLabel *logo = nullptr;
     QPushButton *closeBt = nullptr;
-    bool quitting = false;
+    // Shared with who waits for an answer to a fatal message: the dialog may be gone by then.
+    const std::shared_ptr<bool> quitAnnounced = std::make_shared<bool>(false);
     bool loaded = false;
 };
 

@@ -8,6 +8,12 @@
 #include <QStringList>
 
 namespace kelvra_login {
+class LoginInit;
+}
+
+ZSINGLETON_DECLARE(KELVRA_LOGIN_EXPORT, kelvra_login::LoginInit)
+
+namespace kelvra_login {
 
 /**
  * Where the shell enters the login module.
@@ -56,5 +62,3 @@ private:
 };
 
 } // namespace kelvra_login
-
-ZSINGLETON_DECLARE(KELVRA_LOGIN_EXPORT, kelvra_login::LoginInit)

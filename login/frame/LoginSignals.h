@@ -11,7 +11,11 @@
 
 class QWidget;
 
-Q_DECLARE_METATYPE(ZCOMMON::PwdStrength)
+namespace kelvra_login {
+class LoginSignals;
+}
+
+ZSINGLETON_DECLARE(KELVRA_LOGIN_EXPORT, kelvra_login::LoginSignals)
 
 namespace kelvra_login {
 
@@ -55,5 +59,3 @@ private:
 };
 
 } // namespace kelvra_login
-
-ZSINGLETON_DECLARE(KELVRA_LOGIN_EXPORT, kelvra_login::LoginSignals)

@@ -37,10 +37,6 @@ namespace {
 constexpr int lockSecondsWhenExpired = 300;
 constexpr int unknown = -1;
 
-constexpr int gestureLoginMode = 1;
-constexpr int passwordLoginMode = 0;
-const QString loginModeKey = QStringLiteral("client_login_mode");
-
 // Name first, password last: what the shell hands over for an automatic login.
 constexpr int handedOverParams = 2;
 
@@ -195,6 +191,7 @@ bool LoginWorker::isLoginRemembered(const QString &name) const
     auto &userData = UserData::_instance();
     bool autoLogin = false;
     QDateTime lastLogin;
+    // A time that is not valid counts as today in daysTo().
     if (!userData.getUserLoginRecord(name, autoLogin, lastLogin) || !autoLogin || !lastLogin.isValid())
         return false;
     return lastLogin.daysTo(QDateTime::currentDateTime()) < rememberedLoginDays && userData.isSameLoginEnvironment();

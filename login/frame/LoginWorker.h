@@ -9,12 +9,23 @@
 #include <QStringList>
 
 namespace kelvra_login {
+class LoginWorker;
+}
+
+ZSINGLETON_DECLARE(, kelvra_login::LoginWorker)
+
+namespace kelvra_login {
 
 /** Failed local verifications, of passwords and gestures together, that lock local login. */
 constexpr int maxFailures = 5;
 
 /** Length of the lock that failures bring, in seconds. */
 constexpr int lockSecondsOnFailure = 180;
+
+/** UI setting that tells how the last login was made, with its values. */
+inline const QString loginModeKey = QStringLiteral("client_login_mode");
+constexpr int passwordLoginMode = 0;
+constexpr int gestureLoginMode = 1;
 
 /** How long after a page has been built or a login handed over an automatic login waits, in milliseconds. */
 constexpr int autoLoginDelayMs = 500;
@@ -94,5 +105,3 @@ private:
 };
 
 } // namespace kelvra_login
-
-ZSINGLETON_DECLARE(, kelvra_login::LoginWorker)

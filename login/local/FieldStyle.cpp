@@ -16,4 +16,21 @@ void showFieldError(QLineEdit *lineEdit, const QString &text)
     QToolTip::showText(lineEdit->mapToGlobal(QPoint(0, 0)), text, lineEdit);
 }
 
+FieldContent::FieldContent(QLineEdit *edit, bool keep)
+    : lineEdit(edit)
+    , keepPlaceholder(keep)
+    , text(edit->text())
+    , placeholder(edit->placeholderText())
+{
+}
+
+void FieldContent::restore() const
+{
+    if (lineEdit->text() != text)
+        lineEdit->setText(text);
+    // The owner hears of a new language first, and its placeholder is the one to keep.
+    if (keepPlaceholder)
+        lineEdit->setPlaceholderText(placeholder);
+}
+
 } // namespace kelvra_login

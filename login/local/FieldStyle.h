@@ -32,4 +32,20 @@ void applyStyle(QWidget *widget, const QString &styleSheet);
 /** Shows `text` as a tool tip at the line edit's top left corner. */
 void showFieldError(QLineEdit *lineEdit, const QString &text);
 
+/** Keeps what a re-translation of a field's form would take from its line edit. */
+class FieldContent
+{
+public:
+    /** Notes the text, and the placeholder where it is the owner's rather than the form's. */
+    FieldContent(QLineEdit *lineEdit, bool keepPlaceholder);
+    /** Puts back what has changed. */
+    void restore() const;
+
+private:
+    QLineEdit *const lineEdit;
+    const bool keepPlaceholder;
+    const QString text;
+    const QString placeholder;
+};
+
 } // namespace kelvra_login

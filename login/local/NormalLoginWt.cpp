@@ -21,6 +21,8 @@
 #include <QPointer>
 #include <QUuid>
 
+#include <utility>
+
 using kelvra_contact::SystemMsg;
 using kelvra_data::UserData;
 using kelvra_worker::Customization;
@@ -37,7 +39,7 @@ namespace {
 constexpr int countDownIntervalMs = 100;
 constexpr int nameDelayMs = 1500; // pause after the last edit of the user name
 constexpr int msPerSecond = 1000;
-constexpr int passwordLoginMode = 0; // for "client_login_mode" and for the login logs
+constexpr int passwordMethod = 0; // of the login logs
 
 bool isLeftButton(QEvent *event)
 {
@@ -96,7 +98,7 @@ void NormalLoginWt::restoreLastUser()
     const kelvra_data::UserInfo info = userData.getUserInfo(userData.getLastLoggedLocalUser());
     ui->localUserWt->setText(info.name);
     auto &worker = LoginWorker::_instance();
-    loginRemembered = worker.isAutoLoginAllowed() && worker.isLoginRemembered(info.name);
+    loginRemembered = worker.isLoginRemembered(info.name) && worker.isAutoLoginAllowed();
     if (loginRemembered)
         ui->localPwdWt->setPassword(info.password, true);
 }
@@ -192,7 +194,7 @@ void NormalLoginWt::tryCloudAutoLogin()
 void NormalLoginWt::clickLoginSoon()
 {
     QTimer::singleShot(autoLoginDelayMs, this, [this] {
-        if (!SystemWorker::_instance().isLoginSuccess())
+        if (!quitting && !SystemWorker::_instance().isLoginSuccess())
             emit ui->localLoginBt->clicked();
     });
 }
@@ -211,13 +213,13 @@ void NormalLoginWt::slotLocalLoginBtClicked()
     auto &worker = LoginWorker::_instance();
     if (worker.verifyPassword(userName, pwd)) {
         const bool autoLogin = ui->localAutoLogin->isChecked();
-        LoginLogs::_instance().loginSuccessLog(userName, passwordLoginMode, autoLogin);
+        LoginLogs::_instance().loginSuccessLog(userName, passwordMethod, autoLogin);
         worker.loginSuccess(userName, pwd, autoLogin);
-        UiSettings::_instance().setValue(QStringLiteral("client_login_mode"), passwordLoginMode);
+        UiSettings::_instance().setValue(loginModeKey, passwordLoginMode);
         return;
     }
 
-    LoginLogs::_instance().loginFailureLog(userName, passwordLoginMode);
+    LoginLogs::_instance().loginFailureLog(userName, passwordMethod);
     const int failures = worker.failedTimes();
     if (failures >= maxFailures)
         startLock(userName);
@@ -230,10 +232,12 @@ void NormalLoginWt::startLock(const QString &userName)
 {
     auto &worker = LoginWorker::_instance();
     worker.setLocked(true);
-    // Locked even where the data library cannot be read.
+    bool storedLock = false;
+    int storedSeconds = 0;
+    worker.refreshLockInfo(storedLock, storedSeconds);
+    // Locked here even where the data library could not store it or cannot be read.
     locked = true;
-    lockSeconds = lockSecondsOnFailure;
-    worker.refreshLockInfo(locked, lockSeconds);
+    lockSeconds = storedLock ? storedSeconds : lockSecondsOnFailure;
     LoginLogs::_instance().lockUserLog(userName, lockSeconds);
     startCountDown();
 }
@@ -244,9 +248,14 @@ void NormalLoginWt::startCountDown()
     lockClock.restart();
 }
 
+int NormalLoginWt::remainingLockSeconds() const
+{
+    return lockSeconds - static_cast<int>(lockClock.elapsed() / msPerSecond);
+}
+
 void NormalLoginWt::slotCountDownTimeout()
 {
-    const int remaining = lockSeconds - static_cast<int>(lockClock.elapsed() / msPerSecond);
+    const int remaining = remainingLockSeconds();
     if (remaining >= 0) {
         ui->localLoginBt->setText(tr("Locked, Wait:%1Sec.").arg(remaining));
         return;
@@ -264,9 +273,12 @@ void NormalLoginWt::slotLockLoginByGesture()
 
 void NormalLoginWt::slotQuitSystem()
 {
+    // A host that takes its time to quit shall not be logged in meanwhile.
+    quitting = true;
+    nameTimer->stop();
     auto &worker = LoginWorker::_instance();
     if (worker.isLocked())
-        worker.setLockSeconds(lockSeconds - static_cast<int>(lockClock.elapsed() / msPerSecond));
+        worker.setLockSeconds(remainingLockSeconds());
 }
 
 void NormalLoginWt::slotUserNameEdited()
@@ -286,7 +298,12 @@ void NormalLoginWt::checkRememberedLogin()
     bool storedLock = false;
     int storedSeconds = 0;
     worker.refreshLockInfo(storedLock, storedSeconds);
-    if (storedLock)
+    if (storedLock && !locked) {
+        locked = true;
+        lockSeconds = storedSeconds;
+        startCountDown();
+    }
+    if (locked)
         return;
     ui->localAutoLogin->setChecked(true);
     clickLoginSoon();
@@ -294,10 +311,10 @@ void NormalLoginWt::checkRememberedLogin()
 
 void NormalLoginWt::refreshLinkRow()
 {
-    const bool usersExist =
+    const bool userGiven =
         UserData::_instance().isSuperUserExist(kelvra_data::SuperUserRole) && !ui->localUserWt->text().isEmpty();
-    ui->operStackedWt->setCurrentWidget(usersExist ? ui->page : ui->page_2);
-    ui->localAutoLogin->setVisible(usersExist);
+    ui->operStackedWt->setCurrentWidget(userGiven ? ui->page : ui->page_2);
+    ui->localAutoLogin->setVisible(userGiven);
 }
 
 bool NormalLoginWt::hasUserName()
@@ -366,9 +383,11 @@ bool NormalLoginWt::eventFilter(QObject *watched, QEvent *event)
             return true;
         break;
     case QEvent::MouseButtonRelease:
-        // The release hides the tip that its press has shown.
-        if (onLink && !tipAfterRelease.isEmpty())
-            ui->localUserWt->showError(tipAfterRelease);
+        // The release hides the tip that its press has shown, once for every widget that it is handed up to.
+        if (onLink && isLeftButton(event) && !tipAfterRelease.isEmpty()) {
+            ui->localUserWt->showError(std::exchange(tipAfterRelease, {}));
+            return true;
+        }
         break;
     default:
         break;
@@ -381,7 +400,9 @@ void NormalLoginWt::keyPressEvent(QKeyEvent *event)
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (enter && ui->localLoginBt->isVisible()) {
         event->accept();
-        emit ui->localLoginBt->clicked();
+        // A held key must not spend one failure after the other.
+        if (!event->isAutoRepeat())
+            emit ui->localLoginBt->clicked();
         return;
     }
     QWidget::keyPressEvent(event);
@@ -390,6 +411,9 @@ void NormalLoginWt::keyPressEvent(QKeyEvent *event)
 void NormalLoginWt::showEvent(QShowEvent *event)
 {
     refreshLinkRow();
+    // The first-run page takes no focus, so that there is none to inherit from it.
+    if (!window()->focusWidget())
+        ui->localUserWt->setFocus();
     QWidget::showEvent(event);
 }
 

@@ -52,11 +52,11 @@ private:
     void selectTab(bool cloud, QWidget *page);
     void slotUserNameEdited();
     void checkRememberedLogin();
-    void putRememberedPassword(const QString &userName);
     void clickLoginSoon();
     void tryCloudAutoLogin();
     void startLock(const QString &userName);
     void startCountDown();
+    int remainingLockSeconds() const;
     void refreshLinkRow();
 
     bool linkPressed(QObject *link);
@@ -75,6 +75,7 @@ private:
     QWidget *currentCloudPage = nullptr;
     kelvra_base::CapsLockToolTipHandler *capsLockHandler;
     bool loginRemembered = false;
+    bool quitting = false;
     QString tipAfterRelease;
 };
 

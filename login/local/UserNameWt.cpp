@@ -37,7 +37,7 @@ void UserNameWt::setText(const QString &text)
 
 void UserNameWt::setPlaceholderText(const QString &text)
 {
-    ownPlaceholder = false;
+    placeholderIsOwners = true;
     ui->userName->setPlaceholderText(text);
 }
 
@@ -94,14 +94,9 @@ void UserNameWt::changeEvent(QEvent *event)
 
 void UserNameWt::retranslate()
 {
-    const QString typed = ui->userName->text();
-    const QString placeholder = ui->userName->placeholderText();
+    const FieldContent content(ui->userName, placeholderIsOwners);
     ui->retranslateUi(this);
-    if (ui->userName->text() != typed)
-        ui->userName->setText(typed);
-    // The owner hears of a new language first, and its placeholder is the one to keep.
-    if (!ownPlaceholder)
-        ui->userName->setPlaceholderText(placeholder);
+    content.restore();
 }
 
 bool UserNameWt::eventFilter(QObject *watched, QEvent *event)

@@ -49,7 +49,7 @@ private:
     void retranslate();
 
     const std::unique_ptr<Ui::UserNameWt> ui;
-    bool ownPlaceholder = true;
+    bool placeholderIsOwners = false;
 };
 
 } // namespace kelvra_login

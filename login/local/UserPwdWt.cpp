@@ -6,6 +6,9 @@
 #include <QAction>
 #include <QKeyEvent>
 
+#include <algorithm>
+#include <iterator>
+
 namespace kelvra_login {
 
 namespace {
@@ -25,9 +28,10 @@ bool isClipboardKey(const QKeyEvent &event)
 
 bool typesText(const QKeyEvent &event)
 {
+    // As the line edit takes it: AltGr arrives as Control and Alt together.
+    const Qt::KeyboardModifiers modifiers = event.modifiers() & ~Qt::ShiftModifier;
     const QString text = event.text();
-    return !text.isEmpty() && text.at(0).isPrint() &&
-           !(event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
+    return !text.isEmpty() && text.at(0).isPrint() && modifiers != Qt::ControlModifier;
 }
 
 } // namespace
@@ -102,7 +106,7 @@ void UserPwdWt::keepTypedPasswordClean(const QString &text)
 
 void UserPwdWt::setPlaceholderText(const QString &text)
 {
-    ownPlaceholder = false;
+    placeholderIsOwners = true;
     ui->pwd->setPlaceholderText(text);
 }
 
@@ -172,14 +176,9 @@ void UserPwdWt::changeEvent(QEvent *event)
 
 void UserPwdWt::retranslate()
 {
-    const QString typed = ui->pwd->text();
-    const QString placeholder = ui->pwd->placeholderText();
+    const FieldContent content(ui->pwd, placeholderIsOwners);
     ui->retranslateUi(this);
-    if (ui->pwd->text() != typed)
-        ui->pwd->setText(typed);
-    // The owner hears of a new language first, and its placeholder is the one to keep.
-    if (!ownPlaceholder)
-        ui->pwd->setPlaceholderText(placeholder);
+    content.restore();
 }
 
 bool UserPwdWt::eventFilter(QObject *watched, QEvent *event)

@@ -5,6 +5,7 @@
 #include <memory>
 
 class QAction;
+class QKeyEvent;
 
 namespace ZCOMMON {
 class ZLineEdit;
@@ -56,7 +57,7 @@ protected:
 
 private:
     bool standsForRemembered() const;
-    bool handleKeyPress(const class QKeyEvent &event);
+    bool handleKeyPress(const QKeyEvent &event);
     void keepTypedPasswordClean(const QString &text);
     void showPassword(bool shown);
     void updateEyeIcon(bool highlighted);
@@ -64,7 +65,7 @@ private:
 
     const std::unique_ptr<Ui::UserPwdWt> ui;
     QAction *eye = nullptr;
-    bool ownPlaceholder = true;
+    bool placeholderIsOwners = false;
 };
 
 } // namespace kelvra_login

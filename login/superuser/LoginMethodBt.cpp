@@ -11,7 +11,7 @@ LoginMethodBt::LoginMethodBt(QWidget *parent)
     , ui(std::make_unique<Ui::LoginMethodBt>())
 {
     ui->setupUi(this);
-    // Over its labels, too, the button is what the pointer is on: it lost its hover picture there.
+    // A label under the pointer would take the hover picture from the button.
     ui->title->setAttribute(Qt::WA_TransparentForMouseEvents);
     ui->detail->setAttribute(Qt::WA_TransparentForMouseEvents);
     connect(this, &QPushButton::clicked, this, [this] { emit signalClicked(method); });
