@@ -5,6 +5,9 @@
 
 namespace kelvra_data {
 
+/** The one event that this library writes itself; AuditEntry::user is then the former superuser. */
+constexpr char superUserReplacedEvent[] = "superuser replaced";
+
 /** One line of the audit log. */
 struct AuditEntry
 {

@@ -78,6 +78,7 @@ bool Store::open(const QString &folder, QString *error)
     qAddPostRoutine(closeWithApplication);
 
     bool created = false;
+    const bool withoutKey = !QFileInfo::exists(QDir(folder).filePath(keyFile));
     const QString problem = openFiles(folder, &created);
     opened = problem.isEmpty();
     if (opened) {
@@ -86,6 +87,8 @@ bool Store::open(const QString &folder, QString *error)
         close();
         if (created)
             QFile::remove(QDir(folder).filePath(databaseFile));
+        if (created && withoutKey)
+            QFile::remove(QDir(folder).filePath(keyFile));
     }
     if (error)
         *error = problem;

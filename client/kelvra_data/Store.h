@@ -14,6 +14,12 @@
 #include <memory>
 
 namespace kelvra_data {
+class Store;
+}
+
+ZSINGLETON_DECLARE(KELVRA_DATA_EXPORT, kelvra_data::Store)
+
+namespace kelvra_data {
 
 class Vault;
 
@@ -58,6 +64,13 @@ public:
     /** 16 random bytes that no other folder has. */
     QByteArray salt() const;
 
+    /**
+     * Whether UserData::addSuperUser may replace the local superuser, together with the ordinary local users and all
+     * gestures; cloud accounts stay. Off at first; opening or closing the store does not change it.
+     */
+    void setSuperUserReplaceable(bool replaceable) { superUserReplaceable = replaceable; }
+    bool isSuperUserReplaceable() const { return superUserReplaceable; }
+
     bool appendAudit(const AuditEntry &entry);
 
     /** The newest `limit` entries, the newest first. */
@@ -80,8 +93,7 @@ private:
     const std::unique_ptr<Vault> keys;
     QString openFolder;
     bool opened = false;
+    bool superUserReplaceable = false;
 };
 
 } // namespace kelvra_data
-
-ZSINGLETON_DECLARE(KELVRA_DATA_EXPORT, kelvra_data::Store)

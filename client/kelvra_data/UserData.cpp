@@ -3,6 +3,7 @@
 #include "client/kelvra_data/Schema.h"
 #include "client/kelvra_data/Store.h"
 #include "client/kelvra_data/Transaction.h"
+#include "client/kelvra_data/UserRecord.h"
 #include "client/kelvra_data/Vault.h"
 
 #include <QRegularExpression>
@@ -15,9 +16,7 @@ ZSINGLETON_DEFINE(kelvra_data::UserData)
 namespace {
 
 using namespace kelvra_data;
-
-constexpr int maxNameLength = 64; // both in UTF-16 characters
-constexpr int maxSecretLength = 256;
+using namespace kelvra_data::UserRecord;
 
 // The credentials text is the base64 of version, nonce and authentication code. Their sum is a multiple of three,
 // so that each character is full: none could be changed without changing what it stands for.
@@ -33,43 +32,10 @@ Store &store()
     return ZCOMMON::ZSingleton<Store>::_instance();
 }
 
-bool isUsableName(const QString &name)
-{
-    return !name.trimmed().isEmpty() && name.size() <= maxNameLength && name.isValidUtf16();
-}
-
-bool isUsableSecret(const QString &secret)
-{
-    return !secret.isEmpty() && secret.size() <= maxSecretLength;
-}
-
 bool isGesture(const QString &gesture)
 {
     static const QRegularExpression dots(QStringLiteral("\\A[0-8]{1,9}\\z"));
     return dots.match(gesture).hasMatch();
-}
-
-QByteArray nameBytes(const QString &name)
-{
-    return QByteArray(reinterpret_cast<const char *>(name.utf16()), name.size() * int(sizeof(QChar)));
-}
-
-// Where a sealed value belongs. The name comes last, so that no two places are spelled the same.
-QByteArray placeOf(const char *column, const QString &name)
-{
-    return QByteArray("users.") + column + '\0' + nameBytes(name);
-}
-
-QByteArray seal(const QString &text, const char *column, const QString &name)
-{
-    return store().vault().seal(text, placeOf(column, name));
-}
-
-QString unseal(const QVariant &sealed, const char *column, const QString &name)
-{
-    QString text;
-    store().vault().open(sealed.toByteArray(), placeOf(column, name), text);
-    return text;
 }
 
 // The column of a local user; empty when there is no such user or nothing in it.
@@ -91,6 +57,24 @@ bool isLocalSuperUser(const QString &name)
 {
     return store().holds("SELECT 1 FROM users WHERE name = ? AND kind = ? AND role = ?",
                          {name, Schema::LocalKind, SuperUserRole});
+}
+
+// Whoever replaces the superuser has not shown to be anybody: nothing of the former local users is left to them, nor
+// a lock that those have brought about. The audit log keeps who it was.
+bool clearForNewSuperUser()
+{
+    QSqlQuery query =
+        store().run("SELECT name FROM users WHERE kind = ? AND role = ?", {Schema::LocalKind, SuperUserRole});
+    if (!query.next())
+        return true;
+    AuditEntry entry;
+    entry.at = QDateTime::currentDateTime();
+    entry.event = QLatin1String(superUserReplacedEvent);
+    entry.user = query.value(0).toString();
+    query.finish();
+    return store().run("DELETE FROM users WHERE kind = ?", {Schema::LocalKind}).isActive() &&
+           store().change("UPDATE state SET locked = 0, lock_seconds = 0, failed_count = 0, last_local_user = NULL") &&
+           store().appendAudit(entry);
 }
 
 // The machine's own id stays out of the database: it identifies the computer to everybody.
@@ -282,19 +266,23 @@ bool UserData::deleteUserGesture(const QString &name)
     return store().change("UPDATE users SET gesture = NULL WHERE name = ? AND gesture IS NOT NULL", {name});
 }
 
-// That there is one local superuser at most is a rule of the schema; the insertion fails when there is one.
+// That there is one local superuser at most is a rule of the schema: where it may not be replaced, the insertion
+// fails when there is one.
 bool UserData::addSuperUser(const SuperUserInfo &info)
 {
     const QString name = info.userName;
     if (!isUsableName(name) || !isUsableSecret(info.password) || !isUsableSecret(info.answer1) ||
         !isUsableSecret(info.answer2) || !isUsableSecret(info.answer3))
         return false;
-    return store().change("INSERT INTO users (name, kind, role, display_name, remark, password, question1, question2, "
+    Transaction transaction(store().database());
+    return transaction.isActive() && (!store().isSuperUserReplaceable() || clearForNewSuperUser()) &&
+           store().change("INSERT INTO users (name, kind, role, display_name, remark, password, question1, question2, "
                           "question3, answer1, answer2, answer3) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)",
                           {name, Schema::LocalKind, SuperUserRole, info.displayName, info.remark,
                            seal(info.password, "password", name), info.question1, info.question2, info.question3,
                            seal(info.answer1, "answer1", name), seal(info.answer2, "answer2", name),
-                           seal(info.answer3, "answer3", name)});
+                           seal(info.answer3, "answer3", name)}) &&
+           transaction.commit();
 }
 
 // The account is a superuser of its own: no password, answers or gesture of this client ever belong to it, the

@@ -1,15 +1,18 @@
 #include "client/kelvra_worker/AuditEvent.h"
 
+#include "client/kelvra_data/AuditEntry.h"
+
 #include <QCoreApplication>
 
 #include <iterator>
+#include <string_view>
 
 namespace kelvra_worker {
 
 namespace {
 
 // In the order of AuditEvent. The words are stored: one that has been used keeps its meaning.
-const char *const words[] = {
+constexpr const char *words[] = {
     QT_TRANSLATE_NOOP("AuditEvent", "login success"),
     QT_TRANSLATE_NOOP("AuditEvent", "login failure"),
     QT_TRANSLATE_NOOP("AuditEvent", "lock"),
@@ -22,8 +25,13 @@ const char *const words[] = {
     QT_TRANSLATE_NOOP("AuditEvent", "reset password"),
     QT_TRANSLATE_NOOP("AuditEvent", "export login credentials"),
     QT_TRANSLATE_NOOP("AuditEvent", "create user"),
+    QT_TRANSLATE_NOOP("AuditEvent", "add user"),
+    QT_TRANSLATE_NOOP("AuditEvent", "remove user"),
+    QT_TRANSLATE_NOOP("AuditEvent", "set password"),
+    QT_TRANSLATE_NOOP("AuditEvent", "superuser replaced"),
 };
-static_assert(std::size(words) == std::size_t(AuditEvent::CreateUser) + 1);
+static_assert(std::size(words) == std::size_t(AuditEvent::ReplaceSuperUser) + 1);
+static_assert(words[int(AuditEvent::ReplaceSuperUser)] == std::string_view(kelvra_data::superUserReplacedEvent));
 
 } // namespace
 

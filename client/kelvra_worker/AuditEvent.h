@@ -19,7 +19,11 @@ enum class AuditEvent {
     GetBackPassword,
     ResetPassword,
     ExportCredentials,
-    CreateUser
+    CreateUser,
+    AddUser, ///< an ordinary local user; as the next two by the superuser's hand
+    RemoveUser,
+    SetPassword,
+    ReplaceSuperUser ///< with the former one, who is gone with the ordinary local users
 };
 
 /** The word under which an event is stored. */

@@ -3,20 +3,21 @@
 #include "client/kelvra_worker/CustomizeFile.h"
 #include "client/kelvra_worker/WorkerSetup.h"
 
-#include <QDir>
-
 ZSINGLETON_DEFINE(kelvra_worker::Customization)
 
 namespace kelvra_worker {
 
 namespace {
 
-const QString fileName = QStringLiteral("customize.ini");
-
 CustomizeInfo load()
 {
-    const QString &folder = WorkerSetup::dataFolder();
-    return folder.isEmpty() ? CustomizeInfo() : CustomizeFile(QDir(folder).filePath(fileName)).read();
+    if (WorkerSetup::dataFolder().isEmpty())
+        return {};
+    CustomizeFile file(WorkerSetup::customizeFilePath());
+    QString error;
+    if (!file.read(&error))
+        qWarning("%s", qUtf8Printable(error)); // the shell does not come this far with such a file
+    return file.info();
 }
 
 } // namespace

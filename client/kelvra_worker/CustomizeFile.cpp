@@ -1,9 +1,9 @@
 #include "client/kelvra_worker/CustomizeFile.h"
 
-#include <QDir>
-#include <QFile>
+#include "client/kelvra_worker/IniFile.h"
+
 #include <QFileInfo>
-#include <QSettings>
+#include <QSaveFile>
 
 namespace kelvra_worker {
 
@@ -12,8 +12,11 @@ namespace {
 const QString cloudLoginKey = QStringLiteral("login/cloud_login");
 const QString customImageKey = QStringLiteral("loading/custom_image");
 const QString imageKey = QStringLiteral("loading/image");
+const QString replaceSuperUserKey = QStringLiteral("recovery/replace_superuser");
 
-const char *const defaultFile = R"(; Customisation of this client. It is read once, when the client starts.
+const QByteArray defaultFile =
+    R"(; Customisation of this client. It is read once, when the client starts; the client does not start while the
+; file is damaged or a value in it makes no sense.
 ; A line that begins with a semicolon is a comment. Delete this file to get it back with its defaults.
 
 [login]
@@ -28,38 +31,13 @@ custom_image=false
 ; a semicolon. A path that does not begin at a root is looked up beside this file. If the file does not exist, the
 ; built-in image is shown. Default: empty
 image=
+
+[recovery]
+; true lets whoever sits at this computer create a new superuser when the old one has lost its password and every
+; way back. The former superuser, the local users and their gestures are then removed, and the audit log says so.
+; Default: false
+replace_superuser=false
 )";
-
-void warnAboutValue(const QString &key, const QString &path)
-{
-    qWarning("The value of %s in %s cannot be read; the default is used.", qUtf8Printable(key), qUtf8Printable(path));
-}
-
-bool readFlag(const QSettings &file, const QString &key, bool byDefault)
-{
-    if (!file.contains(key))
-        return byDefault;
-    const QString text = file.value(key).toString().trimmed().toLower();
-    if (text == QLatin1String("true") || text == QLatin1String("1"))
-        return true;
-    if (text != QLatin1String("false") && text != QLatin1String("0")) {
-        warnAboutValue(key, file.fileName());
-        return byDefault;
-    }
-    return false;
-}
-
-QString readPath(const QSettings &file, const QString &key, const QString &byDefault)
-{
-    const QVariant value = file.value(key, byDefault);
-    // An unquoted comma makes a list of it.
-    if (value.type() != QVariant::String) {
-        warnAboutValue(key, file.fileName());
-        return byDefault;
-    }
-    const QString image = value.toString();
-    return image.isEmpty() ? image : QFileInfo(file.fileName()).dir().absoluteFilePath(image);
-}
 
 } // namespace
 
@@ -68,34 +46,27 @@ CustomizeFile::CustomizeFile(const QString &filePath)
 {
 }
 
-CustomizeInfo CustomizeFile::read() const
+bool CustomizeFile::read(QString *error)
 {
-    CustomizeInfo info;
-    if (!QFileInfo::exists(path)) {
-        create();
-        return info;
-    }
-    QSettings file(path, QSettings::IniFormat);
-    file.setIniCodec("UTF-8");
-    if (file.status() != QSettings::NoError) {
-        qWarning("The customisation %s is damaged or not readable; the defaults are used for %s, %s and %s.",
-                 qUtf8Printable(path), qUtf8Printable(cloudLoginKey), qUtf8Printable(customImageKey),
-                 qUtf8Printable(imageKey));
-        return info;
-    }
-    info.cloudLoginEnabled = readFlag(file, cloudLoginKey, info.cloudLoginEnabled);
-    info.customLoadingImageEnabled = readFlag(file, customImageKey, info.customLoadingImageEnabled);
-    info.loadingImagePath = readPath(file, imageKey, info.loadingImagePath);
-    return info;
+    IniFile file(path);
+    const CustomizeInfo defaults;
+    record.cloudLoginEnabled = file.flag(cloudLoginKey, defaults.cloudLoginEnabled);
+    record.customLoadingImageEnabled = file.flag(customImageKey, defaults.customLoadingImageEnabled);
+    record.loadingImagePath = file.path(imageKey, defaults.loadingImagePath);
+    superUserReplaceable = file.flag(replaceSuperUserKey, false);
+    if (error)
+        *error = file.problem();
+    return file.problem().isEmpty();
 }
 
-void CustomizeFile::create() const
+bool CustomizeFile::createIfMissing() const
 {
-    QFile file(path);
-    // NewOnly: a file that somebody has put there meanwhile is theirs.
-    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Text) || file.write(defaultFile) < 0)
-        qWarning("The customisation %s cannot be created: %s.", qUtf8Printable(path),
-                 qUtf8Printable(file.errorString()));
+    if (QFileInfo::exists(path))
+        return true;
+    QSaveFile file(path);
+    // Flushed first: commit() takes no notice of what does not fit on the disk any more.
+    return file.open(QIODevice::WriteOnly | QIODevice::Text) && file.write(defaultFile) == defaultFile.size() &&
+           file.flush() && file.commit();
 }
 
 } // namespace kelvra_worker

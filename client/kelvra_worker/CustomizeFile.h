@@ -7,23 +7,38 @@
 
 namespace kelvra_worker {
 
-/** The customisation record as a file that a person can edit. */
+/** The customisation as a file that a person can edit. */
 class KELVRA_WORKER_EXPORT CustomizeFile
 {
 public:
     explicit CustomizeFile(const QString &filePath);
 
     /**
-     * The record in the file. A file that does not exist is written first, with every key at its default and a
-     * comment to it; one that exists is left as it is. What cannot be read is reported as a warning and counts as
-     * the default.
+     * Reads the file; one that does not exist stands for the defaults, and nothing is ever written. When the file is
+     * damaged or a value in it makes no sense, answers false with a sentence for the user in `error`; what could not
+     * be read then has its default.
      */
-    CustomizeInfo read() const;
+    bool read(QString *error = nullptr);
+
+    /**
+     * Writes the file with every key at its default and a comment to it, complete or not at all, unless there is one.
+     * False when it is not there afterwards.
+     */
+    bool createIfMissing() const;
+
+    /** What the modules are told; the defaults before read(). */
+    const CustomizeInfo &info() const { return record; }
+
+    /**
+     * Whether a new superuser may take the place of the old one once every way back to it is lost. The client's own
+     * matter, so no part of the record.
+     */
+    bool isSuperUserReplaceable() const { return superUserReplaceable; }
 
 private:
-    void create() const;
-
     QString path;
+    CustomizeInfo record;
+    bool superUserReplaceable = false;
 };
 
 } // namespace kelvra_worker

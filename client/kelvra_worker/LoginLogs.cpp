@@ -1,10 +1,6 @@
 #include "host/kelvra_worker/LoginLogs.h"
 
-#include "client/kelvra_data/AuditEntry.h"
-#include "client/kelvra_data/Store.h"
-#include "client/kelvra_worker/AuditEvent.h"
-
-#include <QDateTime>
+#include "client/kelvra_worker/AuditTrail.h"
 
 ZSINGLETON_DEFINE(kelvra_worker::LoginLogs)
 
@@ -12,20 +8,10 @@ namespace kelvra_worker {
 
 namespace {
 
-void write(AuditEvent event, const QString &user, int method = -1, int autoLogin = -1, int seconds = -1)
+template <typename... Numbers>
+void write(AuditEvent event, const QString &user, Numbers... numbers)
 {
-    kelvra_data::AuditEntry entry;
-    entry.at = QDateTime::currentDateTime();
-    entry.event = auditWord(event);
-    entry.user = user;
-    entry.method = method;
-    entry.autoLogin = autoLogin;
-    entry.seconds = seconds;
-    static bool failureReported = false;
-    if (!kelvra_data::Store::_instance().appendAudit(entry) && !failureReported) {
-        failureReported = true;
-        qWarning("The audit log cannot be written, first for \"%s\".", qUtf8Printable(entry.event));
-    }
+    AuditTrail::_instance().write(event, user, numbers...);
 }
 
 } // namespace

@@ -14,4 +14,7 @@ constexpr Language chinese{1};
 inline const QString languageKey = QStringLiteral("language");
 inline const QString lastUserTypeKey = QStringLiteral("last_login_user_type");
 
+/** The module's only one. */
+inline const QString loginModeKey = QStringLiteral("client_login_mode");
+
 } // namespace kelvra_worker

@@ -19,6 +19,15 @@ public:
      */
     static void setDataFolder(const QString &folder);
     static const QString &dataFolder();
+    static QString customizeFilePath();
+    static QString settingsFilePath();
+
+    /**
+     * Whether "settings.ini" can be used; otherwise `error` holds a sentence for the user. The file is left alone.
+     * These keys are looked at, each a number: "language" (0 English, 1 Chinese), "last_login_user_type" (1 local,
+     * 2 cloud) and "client_login_mode" (0 password, 1 gesture).
+     */
+    static bool checkSettings(QString *error);
 
     /**
      * Puts the language of the first screen into force: the saved one, else that of the system where the client

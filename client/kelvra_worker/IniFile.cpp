@@ -1,0 +1,116 @@
+#include "client/kelvra_worker/IniFile.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTextCodec>
+
+#include <algorithm>
+
+namespace kelvra_worker {
+
+namespace {
+
+QString shown(const QSettings &file)
+{
+    return QDir::toNativeSeparators(file.fileName());
+}
+
+bool isText(const QByteArray &data)
+{
+    QTextCodec::ConverterState state;
+    const QString text = QTextCodec::codecForName("UTF-8")->toUnicode(data.constData(), data.size(), &state);
+    return state.invalidChars == 0 && state.remainingChars == 0 && std::none_of(text.begin(), text.end(), [](QChar c) {
+               return c.category() == QChar::Other_Control && c != QLatin1Char('\t') && c != QLatin1Char('\r') &&
+                      c != QLatin1Char('\n');
+           });
+}
+
+// QSettings skips much of what it does not understand, and tells of the rest only to the first who opens a file.
+bool isIni(const QByteArray &data)
+{
+    bool continued = false;
+    for (const QByteArray &line : data.split('\n')) {
+        const QByteArray text = line.trimmed();
+        const bool section = text.startsWith('[') && text.endsWith(']');
+        const bool comment = text.startsWith(';') || text.startsWith('#');
+        if (!continued && !text.isEmpty() && !section && !comment && text.indexOf('=') < 1)
+            return false;
+        continued = text.endsWith('\\') && !comment;
+    }
+    return isText(data);
+}
+
+} // namespace
+
+IniFile::IniFile(const QString &filePath)
+    : file(filePath, QSettings::IniFormat)
+{
+    file.setIniCodec("UTF-8");
+    if (!QFileInfo::exists(filePath))
+        return;
+    QFile raw(filePath);
+    usable = false;
+    if (!raw.open(QIODevice::ReadOnly))
+        noteProblem(tr("The file %1 cannot be read.").arg(shown(file)));
+    else if (!isIni(raw.readAll()) || file.status() != QSettings::NoError)
+        noteProblem(tr("The file %1 is damaged; correct it or delete it.").arg(shown(file)));
+    else
+        usable = true;
+}
+
+bool IniFile::holds(const QString &key) const
+{
+    return usable && file.contains(key);
+}
+
+bool IniFile::flag(const QString &key, bool byDefault)
+{
+    if (!holds(key))
+        return byDefault;
+    const QString text = file.value(key).toString().trimmed().toLower();
+    if (text == QLatin1String("true") || text == QLatin1String("1"))
+        return true;
+    if (text == QLatin1String("false") || text == QLatin1String("0"))
+        return false;
+    noteBadValue(key);
+    return byDefault;
+}
+
+int IniFile::number(const QString &key, int byDefault)
+{
+    if (!holds(key))
+        return byDefault;
+    bool isNumber = false;
+    const int value = file.value(key).toString().toInt(&isNumber);
+    if (!isNumber)
+        noteBadValue(key);
+    return isNumber ? value : byDefault;
+}
+
+QString IniFile::path(const QString &key, const QString &byDefault)
+{
+    if (!holds(key))
+        return byDefault;
+    const QVariant value = file.value(key);
+    // An unquoted comma makes a list of it.
+    if (value.type() != QVariant::String) {
+        noteBadValue(key);
+        return byDefault;
+    }
+    const QString text = value.toString();
+    return text.isEmpty() ? text : QFileInfo(file.fileName()).dir().absoluteFilePath(text);
+}
+
+void IniFile::noteProblem(const QString &sentence)
+{
+    if (firstProblem.isEmpty())
+        firstProblem = sentence;
+}
+
+void IniFile::noteBadValue(const QString &key)
+{
+    noteProblem(tr("The value of %1 in the file %2 makes no sense; correct it or delete it.").arg(key, shown(file)));
+}
+
+} // namespace kelvra_worker
