@@ -3,54 +3,57 @@
 #include "client/kelvra_base/AlertBox.h"
 #include "client/kelvra_data/Store.h"
 #include "client/kelvra_worker/AuditEvent.h"
+#include "client/kelvra_worker/CustomizeFile.h"
+#include "client/kelvra_worker/FailureNotice.h"
 #include "client/kelvra_worker/WorkerSetup.h"
 #include "client/shell/ClientStyle.h"
+#include "client/shell/Console.h"
 #include "client/shell/MainWindow.h"
+#include "client/shell/SingleInstance.h"
 #include "host/kelvra_base/BaseTools.h"
 #include "host/kelvra_contact/SystemMsg.h"
 #include "host/kelvra_data/UserData.h"
 #include "host/kelvra_worker/DictDef.h"
+#include "host/kelvra_worker/LoginLogs.h"
+#include "host/kelvra_worker/SysLanguage.h"
 #include "host/kelvra_worker/SystemWorker.h"
 #include "host/kelvra_worker/UiSettings.h"
 #include "login/frame/LoginInit.h"
 
 #include <QApplication>
-#include <QCommandLineParser>
 #include <QDir>
 #include <QIcon>
 #include <QPointer>
-#include <QStandardPaths>
 #include <QTimer>
 
-#include <cstdio>
 #include <iterator>
 
 using kelvra_contact::SystemMsg;
 using kelvra_data::Store;
 using kelvra_data::UserData;
+using kelvra_worker::CustomizeFile;
 using kelvra_worker::SystemWorker;
 using kelvra_worker::UiSettings;
+using kelvra_worker::WorkerSetup;
 
 namespace kelvra_client {
 
 namespace {
 
 constexpr int exitNoData = 1;
-constexpr int exitUsage = 2;
-constexpr int auditEntriesShown = 200;
+constexpr int auditEntriesSearched = 200; // for how the user has logged in
+constexpr int passwordMethod = 0;         // as LoginLogs takes it
 const QString geometryKey = QStringLiteral("main_window_geometry");
-
-void printLine(FILE *stream, const QString &text)
-{
-    std::fprintf(stream, "%s\n", qUtf8Printable(text));
-    std::fflush(stream);
-}
+const QString offscreenPlatform = QStringLiteral("offscreen");
+const QString minimalPlatform = QStringLiteral("minimal");
 
 } // namespace
 
 ClientShell::ClientShell(QObject *parent)
     : QObject(parent)
 {
+    loadTimer.setSingleShot(true);
+    loadTimer.setInterval(0);
 }
 
 ClientShell::~ClientShell()
@@ -65,48 +68,21 @@ ClientShell::~ClientShell()
     Store::_instance().close();
 }
 
-int ClientShell::run(const QStringList &arguments)
+int ClientShell::run(const StartOptions &startOptions, const QString &password)
 {
-    if (const std::optional<int> exitCode = readOptions(arguments))
-        return *exitCode;
+    options = startOptions;
+    handedPassword = password;
     prepareApplication();
-    if (!openStore())
+    if (const std::optional<int> exitCode = claimFolder())
+        return *exitCode;
+    const QString problem = openData();
+    if (!problem.isEmpty()) {
+        refuse(problem);
         return exitNoData;
+    }
     connectMessages();
     QTimer::singleShot(0, this, &ClientShell::startLogin);
     return QCoreApplication::exec();
-}
-
-std::optional<int> ClientShell::readOptions(const QStringList &arguments)
-{
-    QCommandLineParser parser;
-    // In English: the language is chosen in the settings of the folder that is named here.
-    parser.setApplicationDescription(QStringLiteral("Desktop client for video management."));
-    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Shows this help."));
-    const QCommandLineOption version = parser.addVersionOption();
-    const QCommandLineOption folder(QStringLiteral("data-dir"), QStringLiteral("Folder of users, settings and logs."),
-                                    QStringLiteral("DIR"),
-                                    QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
-    parser.addOptions({help, folder});
-    QString error;
-    if (!parser.parse(arguments))
-        error = parser.errorText();
-    else if (!parser.positionalArguments().isEmpty())
-        error = QStringLiteral("Unexpected argument '%1'.").arg(parser.positionalArguments().constFirst());
-    else if (parser.value(folder).isEmpty())
-        error = QStringLiteral("The option --data-dir needs the name of a folder.");
-    if (!error.isEmpty()) {
-        printLine(stderr, QStringLiteral("kelvra_client: ") + error);
-        return exitUsage;
-    }
-    if (parser.isSet(help) || parser.isSet(version)) {
-        printLine(stdout, parser.isSet(help)
-                              ? parser.helpText()
-                              : QStringLiteral("kelvra_client ") + QCoreApplication::applicationVersion());
-        return 0;
-    }
-    dataFolder = QDir().absoluteFilePath(parser.value(folder));
-    return std::nullopt;
 }
 
 void ClientShell::prepareApplication()
@@ -114,20 +90,52 @@ void ClientShell::prepareApplication()
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/images/images/app_icon_256.png")));
     ClientStyle::install(*qApp);
-    kelvra_worker::WorkerSetup::setDataFolder(dataFolder);
-    kelvra_worker::WorkerSetup::loadSavedLanguage();
+    WorkerSetup::setDataFolder(options.dataFolder);
+    if (options.language)
+        kelvra_worker::SysLanguage::_instance().setLanguage(*options.language, false);
+    else
+        WorkerSetup::loadSavedLanguage();
 }
 
-bool ClientShell::openStore()
+std::optional<int> ClientShell::claimFolder()
 {
+    instance = std::make_unique<SingleInstance>(options.dataFolder);
     QString error;
-    if (Store::_instance().open(dataFolder, &error))
-        return true;
-    printLine(stderr, QStringLiteral("kelvra_client: ") + error);
+    switch (instance->claim(&error)) {
+    case SingleInstance::First:
+        return std::nullopt;
+    case SingleInstance::Second:
+        return 0;
+    case SingleInstance::Failed:
+        break;
+    }
+    refuse(error);
+    return exitNoData;
+}
+
+QString ClientShell::openData()
+{
+    CustomizeFile customization(WorkerSetup::customizeFilePath());
+    QString error;
+    if (!customization.read(&error) || !WorkerSetup::checkSettings(&error) ||
+        !Store::_instance().open(options.dataFolder, &error))
+        return error;
+    Store::_instance().setSuperUserReplaceable(customization.isSuperUserReplaceable());
+    if (!customization.createIfMissing())
+        kelvra_worker::FailureNotice::show(tr("The file %1 cannot be written; the client goes on without it.")
+                                               .arg(QDir::toNativeSeparators(WorkerSetup::customizeFilePath())));
+    return {};
+}
+
+void ClientShell::refuse(const QString &sentence) const
+{
+    Console::complain(sentence);
+    // Nobody could close an alert where windows are not shown.
+    if (QGuiApplication::platformName() == offscreenPlatform || QGuiApplication::platformName() == minimalPlatform)
+        return;
     using kelvra_base::AlertBox;
     using kelvra_worker::DictDef;
-    AlertBox::ask(nullptr, AlertBox::Error, DictDef::_instance().alertTitle(DictDef::OperationFailedTitle), error);
-    return false;
+    AlertBox::ask(nullptr, AlertBox::Error, DictDef::_instance().alertTitle(DictDef::OperationFailedTitle), sentence);
 }
 
 void ClientShell::connectMessages()
@@ -136,6 +144,8 @@ void ClientShell::connectMessages()
     connect(&messages, &SystemMsg::signalLoginSuccess, this, &ClientShell::startLoading);
     connect(&messages, &SystemMsg::signalSystemInitFinished, this, &ClientShell::showWindow);
     connect(&messages, &SystemMsg::signalPrepareQuitSystem, this, &ClientShell::saveSettings);
+    connect(&messages, &SystemMsg::signalPrepareQuitSystem, &loadTimer, &QTimer::stop);
+    connect(&loadTimer, &QTimer::timeout, this, &ClientShell::loadNext);
     connect(&messages, &SystemMsg::signalQuitSystem, this, &QCoreApplication::quit);
 }
 
@@ -146,7 +156,36 @@ void ClientShell::startLogin()
     module.moduleInit();
     module.init();
     loginOpened = QDateTime::currentDateTime();
-    loginInit.login(SystemWorker::_instance().lastLoggedUserType(), {}, true);
+    requestLogin();
+    connect(instance.get(), &SingleInstance::signalRepeatedStart, this, &ClientShell::comeToFront);
+    instance->answerRepeatedStarts();
+}
+
+void ClientShell::requestLogin()
+{
+    auto &loginInit = kelvra_login::LoginInit::_instance();
+    bool locked = false;
+    int seconds = 0;
+    if (UserData::_instance().getLockInfo(locked, seconds) && locked)
+        handedPassword.clear();
+    userHandedOver = !handedPassword.isEmpty();
+    // Where a user has been named, a remembered one does not log in of itself: it would be there first.
+    if (userHandedOver)
+        loginInit.login(kelvra_worker::LocalUser, {options.user, handedPassword}, false);
+    else
+        loginInit.login(SystemWorker::_instance().lastLoggedUserType(), {}, options.user.isEmpty());
+    handedPassword.clear();
+}
+
+void ClientShell::comeToFront()
+{
+    emit SystemMsg::_instance().signalClientRepeatedStart();
+    if (!window || !window->isVisible())
+        return;
+    if (window->isMinimized())
+        window->showNormal();
+    window->raise();
+    window->activateWindow();
 }
 
 void ClientShell::switchUser()
@@ -163,7 +202,7 @@ void ClientShell::startLoading()
     nextStep = 0;
     session.since = QDateTime::currentDateTime();
     // From the next turn on: the module has yet to say that loading stands at 50, and to finish its own records.
-    QTimer::singleShot(0, this, &ClientShell::loadNext);
+    loadTimer.start();
 }
 
 void ClientShell::loadNext()
@@ -174,14 +213,15 @@ void ClientShell::loadNext()
         int progress; ///< percent, when it is done
     };
     static constexpr Step steps[] = {{&ClientShell::readSession, 60},
-                                     {&ClientShell::buildWindow, 75},
+                                     {&ClientShell::buildWindow, 70},
+                                     {&ClientShell::readUsers, 80},
                                      {&ClientShell::readAuditLog, 90},
                                      {&ClientShell::readSettings, 100}};
 
     const Step &step = steps[nextStep++];
     (this->*step.work)();
     if (nextStep < int(std::size(steps)))
-        QTimer::singleShot(0, this, &ClientShell::loadNext);
+        loadTimer.start();
     emit SystemMsg::_instance().signalSystemInitProgress(step.progress);
 }
 
@@ -190,15 +230,27 @@ void ClientShell::readSession()
     const SystemWorker &worker = SystemWorker::_instance();
     session.user = worker.getCurUserName();
     session.type = worker.lastLoggedUserType();
-    session.autoLogin = UserData::_instance().isUserAutoLogin(session.user);
     session.method = -1;
     const QString success = kelvra_worker::auditWord(kelvra_worker::AuditEvent::LoginSuccess);
-    for (const kelvra_data::AuditEntry &entry : Store::_instance().auditLog(auditEntriesShown)) {
+    for (const kelvra_data::AuditEntry &entry : Store::_instance().auditLog(auditEntriesSearched)) {
         if (entry.event == success && entry.user == session.user && entry.at >= loginOpened) {
             session.method = entry.method;
             break;
         }
     }
+    recordHandedOver();
+}
+
+// The module takes such a login for one that is on record, so the record is made here.
+void ClientShell::recordHandedOver()
+{
+    const bool unrecorded = session.method < 0 && session.type == kelvra_worker::LocalUser;
+    if (userHandedOver && unrecorded && session.user == options.user) {
+        session.method = passwordMethod;
+        kelvra_worker::LoginLogs::_instance().loginSuccessLog(session.user, passwordMethod,
+                                                              UserData::_instance().isUserAutoLogin(session.user));
+    }
+    userHandedOver = false;
 }
 
 void ClientShell::buildWindow()
@@ -210,9 +262,14 @@ void ClientShell::buildWindow()
     window->setSession(session);
 }
 
+void ClientShell::readUsers()
+{
+    window->loadUsers();
+}
+
 void ClientShell::readAuditLog()
 {
-    window->setAuditLog(Store::_instance().auditLog(auditEntriesShown));
+    window->loadAuditLog();
 }
 
 void ClientShell::readSettings()
@@ -223,7 +280,8 @@ void ClientShell::readSettings()
 
 void ClientShell::saveSettings()
 {
-    if (window)
+    // While it is still being loaded the window does not stand where the user has put it.
+    if (window && !loadTimer.isActive())
         UiSettings::_instance().setValue(geometryKey, window->saveGeometry());
 }
 

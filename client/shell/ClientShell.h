@@ -1,9 +1,10 @@
 #pragma once
 
 #include "client/shell/SessionInfo.h"
+#include "client/shell/StartOptions.h"
 
 #include <QObject>
-#include <QStringList>
+#include <QTimer>
 
 #include <memory>
 #include <optional>
@@ -11,8 +12,9 @@
 namespace kelvra_client {
 
 class MainWindow;
+class SingleInstance;
 
-/** The story of one run: options, data folder, login, loading, main window, the end. */
+/** The story of one run: data folder, login, loading, main window, the end. */
 class ClientShell : public QObject
 {
     Q_OBJECT
@@ -25,33 +27,45 @@ public:
     /**
      * Runs the client until the user quits. The application object exists.
      *
-     * @return exit code: 0, 1 when the data folder cannot be used, 2 for wrong options
+     * @param password that of the user whom the options name
+     * @return exit code: 0, also where another client has been brought to the front; 1 when the data folder cannot be
+     *         used
      */
-    int run(const QStringList &arguments);
+    int run(const StartOptions &startOptions, const QString &password);
 
 private:
-    /** Exit code where the options leave nothing to run; sets dataFolder otherwise. */
-    std::optional<int> readOptions(const QStringList &arguments);
-    bool openStore();
     void prepareApplication();
+    /** Exit code where the folder does not become this client's. */
+    std::optional<int> claimFolder();
+    /** Everything is looked at before anything is written; empty, or a sentence about what cannot be used. */
+    QString openData();
+    void refuse(const QString &sentence) const;
     void connectMessages();
 
     void startLogin();
+    void requestLogin();
+    void comeToFront();
     void switchUser();
     void startLoading();
     void loadNext();
     void saveSettings();
 
     void readSession();
-    void readAuditLog();
+    void recordHandedOver();
     void buildWindow();
+    void readUsers();
+    void readAuditLog();
     void readSettings();
     void showWindow();
 
-    QString dataFolder;
+    StartOptions options;
+    QString handedPassword;                   ///< until the login has it
+    std::unique_ptr<SingleInstance> instance; ///< goes last: the folder is in use until the store is closed
     std::unique_ptr<MainWindow> window;
     SessionInfo session;
-    QDateTime loginOpened; ///< a login success in the audit log belongs to this session from here on
+    QDateTime loginOpened;       ///< a login success in the audit log belongs to this session from here on
+    bool userHandedOver = false; ///< and not yet on record
+    QTimer loadTimer;            ///< to the next step of loading; stops when the user quits meanwhile
     int nextStep = 0;
 };
 

@@ -1,28 +1,19 @@
 #include "client/shell/MainWindow.h"
 
-#include "client/kelvra_worker/AuditEvent.h"
+#include "client/kelvra_worker/AuditTrail.h"
 #include "host/kelvra_contact/SystemMsg.h"
+#include "host/kelvra_data/UserData.h"
+#include "host/kelvra_worker/SysLanguage.h"
 #include "ui_MainWindow.h"
 
 #include <QCloseEvent>
-#include <QHeaderView>
 
 using kelvra_contact::SystemMsg;
+using kelvra_data::UserData;
+using kelvra_worker::AuditTrail;
+using kelvra_worker::SysLanguage;
 
 namespace kelvra_client {
-
-namespace {
-
-enum Column { TimeColumn, EventColumn, UserColumn, DetailsColumn };
-
-constexpr int passwordMethod = 0; // as LoginLogs takes it
-constexpr int gestureMethod = 1;
-constexpr int timeColumnWidth = 180;  // px
-constexpr int eventColumnWidth = 210; // px
-constexpr int userColumnWidth = 180;  // px
-const QString timeFormat = QStringLiteral("yyyy-MM-dd hh:mm:ss");
-
-} // namespace
 
 MainWindow::MainWindow(QWidget *parent)
     : QWidget(parent)
@@ -30,86 +21,94 @@ MainWindow::MainWindow(QWidget *parent)
 {
     setAttribute(Qt::WA_StyledBackground);
     ui->setupUi(this);
-    QHeaderView *header = ui->auditTable->horizontalHeader();
-    header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    header->resizeSection(TimeColumn, timeColumnWidth);
-    header->resizeSection(EventColumn, eventColumnWidth);
-    header->resizeSection(UserColumn, userColumnWidth);
-    ui->auditTable->setFocus();
+    fillLanguageBox();
+    ui->auditLogWt->setFocus();
     connect(ui->switchUserBt, &QPushButton::clicked, this, &MainWindow::signalSwitchUser);
     connect(ui->quitBt, &QPushButton::clicked, this, &MainWindow::close);
+    // Whatever is recorded may have changed what is shown here, by whose hand ever.
+    connect(&AuditTrail::_instance(), &AuditTrail::entryAdded, this, &MainWindow::loadUsers);
 }
 
 MainWindow::~MainWindow() = default;
 
+void MainWindow::fillLanguageBox()
+{
+    const QMap<int, QString> names = SysLanguage::_instance().getLanguageNames();
+    for (auto name = names.constBegin(); name != names.constEnd(); ++name)
+        ui->languageBox->addItem(name.value(), name.key());
+    showLanguage();
+    connect(ui->languageBox, QOverload<int>::of(&QComboBox::activated), this, [this](int index) {
+        const int id = ui->languageBox->itemData(index).toInt();
+        SysLanguage::_instance().setLanguage(static_cast<kelvra_worker::Language>(id), true);
+    });
+}
+
 void MainWindow::setSession(const SessionInfo &info)
 {
     session = info;
+    ui->localUsersWt->setUser(session.user);
     showSession();
 }
 
-void MainWindow::setAuditLog(const QVector<kelvra_data::AuditEntry> &entries)
+void MainWindow::loadUsers()
 {
-    auditLog = entries;
-    showAuditLog();
+    ui->localUsersWt->refresh();
+    showSession();
+}
+
+void MainWindow::loadAuditLog()
+{
+    ui->auditLogWt->load();
 }
 
 void MainWindow::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::LanguageChange) {
         ui->retranslateUi(this);
+        showLanguage();
         showSession();
-        showAuditLog();
     }
     QWidget::changeEvent(event);
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)
 {
-    emit SystemMsg::_instance().signalPrepareQuitSystem();
-    emit SystemMsg::_instance().signalQuitSystem();
+    if (!ended) {
+        ended = true;
+        emit SystemMsg::_instance().signalPrepareQuitSystem();
+        emit SystemMsg::_instance().signalQuitSystem();
+    }
     QWidget::closeEvent(event);
+}
+
+void MainWindow::showLanguage()
+{
+    ui->languageBox->setCurrentIndex(ui->languageBox->findData(int(SysLanguage::_instance().getLanguage())));
 }
 
 void MainWindow::showSession()
 {
     ui->currentUser->setText(session.user);
-    ui->method->setText(wayOfLogin());
-    ui->since->setText(session.since.toString(timeFormat));
-    ui->autoLogin->setText(session.autoLogin ? tr("Automatic") : tr("By hand"));
+    ui->currentRole->setText(role());
+    ui->loginMethod->setText(wayOfLogin());
+    ui->loginSince->setText(session.since.toString(SessionInfo::timeFormat));
+    ui->autoLogin->setText(UserData::_instance().isUserAutoLogin(session.user) ? tr("Automatic") : tr("By hand"));
+}
+
+QString MainWindow::role() const
+{
+    if (UserData::_instance().isSuperUser(session.user))
+        return tr("Superuser");
+    return UserData::_instance().isUserExist(session.user) ? tr("User") : tr("This user has been removed");
 }
 
 QString MainWindow::wayOfLogin() const
 {
     if (session.type == kelvra_worker::CloudUser)
         return tr("Cloud account");
-    if (session.method == passwordMethod)
+    if (session.method == SessionInfo::PasswordMethod)
         return tr("Local user, by password");
-    return session.method == gestureMethod ? tr("Local user, by gesture") : tr("Local user");
-}
-
-QString MainWindow::details(const kelvra_data::AuditEntry &entry)
-{
-    QStringList parts;
-    if (entry.method >= 0)
-        parts << (entry.method == gestureMethod ? tr("gesture") : tr("password"));
-    if (entry.autoLogin > 0)
-        parts << tr("automatic login from now on");
-    if (entry.seconds >= 0)
-        parts << tr("for %1 seconds").arg(entry.seconds);
-    return parts.join(tr(", ", "between details"));
-}
-
-void MainWindow::showAuditLog()
-{
-    ui->auditTable->setRowCount(auditLog.size());
-    for (int row = 0; row < auditLog.size(); ++row) {
-        const kelvra_data::AuditEntry &entry = auditLog.at(row);
-        const QString texts[] = {entry.at.toLocalTime().toString(timeFormat),
-                                 kelvra_worker::translatedAuditWord(entry.event), entry.user, details(entry)};
-        for (int column = TimeColumn; column <= DetailsColumn; ++column)
-            ui->auditTable->setItem(row, column, new QTableWidgetItem(texts[column]));
-    }
+    return session.method == SessionInfo::GestureMethod ? tr("Local user, by gesture") : tr("Local user");
 }
 
 } // namespace kelvra_client

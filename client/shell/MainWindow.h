@@ -1,9 +1,7 @@
 #pragma once
 
-#include "client/kelvra_data/AuditEntry.h"
 #include "client/shell/SessionInfo.h"
 
-#include <QVector>
 #include <QWidget>
 
 #include <memory>
@@ -24,7 +22,10 @@ public:
     ~MainWindow() override;
 
     void setSession(const SessionInfo &info);
-    void setAuditLog(const QVector<kelvra_data::AuditEntry> &entries);
+
+    /** Reads again what the users may do and who they are. */
+    void loadUsers();
+    void loadAuditLog();
 
 signals:
     void signalSwitchUser();
@@ -34,14 +35,15 @@ protected:
     void closeEvent(QCloseEvent *event) override;
 
 private:
+    void fillLanguageBox();
+    void showLanguage();
     void showSession();
-    void showAuditLog();
+    QString role() const;
     QString wayOfLogin() const;
-    static QString details(const kelvra_data::AuditEntry &entry);
 
     const std::unique_ptr<Ui::MainWindow> ui;
     SessionInfo session;
-    QVector<kelvra_data::AuditEntry> auditLog;
+    bool ended = false; ///< the client has been told to quit
 };
 
 } // namespace kelvra_client

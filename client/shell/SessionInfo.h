@@ -10,10 +10,15 @@ namespace kelvra_client {
 /** Who is logged in, and how it came about. */
 struct SessionInfo
 {
+    /** As LoginLogs takes them. */
+    enum Method { PasswordMethod = 0, GestureMethod = 1 };
+
+    /** How the client writes a time, with QDateTime::toString. */
+    static inline const QString timeFormat = QStringLiteral("yyyy-MM-dd hh:mm:ss");
+
     QString user;
     kelvra_worker::UserType type = kelvra_worker::LocalUser;
-    int method = -1;        ///< 0 password, 1 gesture, -1 not told (a user just created, a cloud account)
-    bool autoLogin = false; ///< the next login on this computer may be automatic
+    int method = -1; ///< a Method, -1 when it was not told (a user just created, a cloud account)
     QDateTime since;
 };
 

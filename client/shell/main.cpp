@@ -1,8 +1,22 @@
 #include "client/shell/ClientShell.h"
+#include "client/shell/Console.h"
+#include "client/shell/DisplayWatch.h"
+#include "client/shell/PasswordInput.h"
+#include "client/shell/StartOptions.h"
+#include "client/shell/Tour.h"
+#include "client/shell/TourDriver.h"
 
 #include <QApplication>
 
-int main(int argc, char *argv[])
+#include <memory>
+
+using namespace kelvra_client;
+
+namespace {
+
+constexpr int exitUsage = 2;
+
+void describeApplication()
 {
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
@@ -10,6 +24,63 @@ int main(int argc, char *argv[])
     QCoreApplication::setOrganizationName(QStringLiteral("kelvra"));
     QCoreApplication::setApplicationName(QStringLiteral("kelvra_client"));
     QCoreApplication::setApplicationVersion(QStringLiteral(KELVRA_VERSION));
-    QApplication app(argc, argv);
-    return kelvra_client::ClientShell().run(QCoreApplication::arguments());
+    qSetMessagePattern(QStringLiteral("%{appname}: %{if-category}%{category}: %{endif}%{message}"));
+}
+
+/** Exit code where the options leave nothing to run. */
+std::optional<int> readOptions(int argc, char *argv[], StartOptions *options)
+{
+    // Decodes the command line as the platform does, and needs no display.
+    const QCoreApplication application(argc, argv);
+    QString error;
+    const std::optional<StartOptions> parsed = StartOptions::parse(QCoreApplication::arguments(), &error);
+    if (!parsed) {
+        Console::complain(error);
+        return exitUsage;
+    }
+    *options = *parsed;
+    if (!options->help && !options->version)
+        return std::nullopt;
+    Console::print(options->help ? StartOptions::helpText()
+                                 : QStringLiteral("kelvra_client ") + QCoreApplication::applicationVersion());
+    return 0;
+}
+
+/** Before the data folder is claimed, which is not kept waiting for somebody to type. */
+bool readPassword(QString *password)
+{
+    QString error;
+    const std::optional<QString> given = PasswordInput::read(&error);
+    if (given)
+        *password = *given;
+    else
+        Console::complain(error);
+    return given.has_value();
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    describeApplication();
+    StartOptions options;
+    if (const std::optional<int> exitCode = readOptions(argc, argv, &options))
+        return *exitCode;
+    const bool onTour = !options.tourFolder.isEmpty();
+    if (onTour && !DisplayWatch::isDisplayNamed())
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (!DisplayWatch::isDisplayNamed())
+        return DisplayWatch::complain();
+    QString password;
+    if (!options.user.isEmpty() && !readPassword(&password))
+        return exitUsage;
+
+    auto watch = std::make_unique<DisplayWatch>();
+    QApplication application(argc, argv);
+    watch.reset();
+    if (onTour)
+        return Tour(options.tourFolder).run();
+    // Null unless this is a program that the tour has started to show it.
+    const std::unique_ptr<TourDriver> driver = TourDriver::fromEnvironment();
+    return ClientShell().run(options, password);
 }

@@ -1,0 +1,120 @@
+#include "client/shell/Tour.h"
+
+#include "client/shell/Console.h"
+#include "client/shell/TourDriver.h"
+
+#include <QDir>
+#include <QGuiApplication>
+#include <QProcess>
+
+#include <cstdio>
+
+namespace kelvra_client {
+
+namespace {
+
+constexpr int exitFailed = 1;
+constexpr int stageTimeoutMs = 45000;
+const QString endedWell = QStringLiteral("ended with exit status 0");
+
+QString failureOf(QProcess &program)
+{
+    if (!program.waitForStarted())
+        return QStringLiteral("cannot be started");
+    if (!program.waitForFinished(stageTimeoutMs)) {
+        program.kill();
+        program.waitForFinished();
+        return QStringLiteral("hung and was stopped");
+    }
+    if (program.exitStatus() == QProcess::CrashExit)
+        return QStringLiteral("crashed");
+    return program.exitCode() == 0 ? QString() : QStringLiteral("ended with exit status %1").arg(program.exitCode());
+}
+
+} // namespace
+
+Tour::Tour(const QString &pictureFolder)
+    : folder(QDir().absoluteFilePath(pictureFolder))
+    , text(QDir(folder).filePath(QStringLiteral("tour.txt")))
+{
+}
+
+bool Tour::prepare()
+{
+    QString error;
+    if (!data.isValid())
+        error = QStringLiteral("No folder for throw-away data can be made: %1.").arg(data.errorString());
+    else if (!QDir().mkpath(folder))
+        error = QStringLiteral("The folder %1 cannot be made.").arg(QDir::toNativeSeparators(folder));
+    else if (!text.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Text))
+        error = QStringLiteral("The folder %1 cannot be written: %2.")
+                    .arg(QDir::toNativeSeparators(folder), text.errorString());
+    if (!error.isEmpty())
+        Console::complain(error);
+    return error.isEmpty();
+}
+
+int Tour::run()
+{
+    if (!prepare())
+        return exitFailed;
+    const QVector<TourStage> stages = TourScript::stages();
+    for (int index = 0; index < stages.size(); ++index)
+        runStage(index, stages.at(index));
+    std::printf("%d of %d steps held; pictures and tour.txt are in %s\n", steps - failures, steps,
+                qUtf8Printable(QDir::toNativeSeparators(folder)));
+    return failures == 0 ? 0 : exitFailed;
+}
+
+QStringList Tour::reportsOf(int index, const TourStage &stage, QString *end) const
+{
+    QProcess program;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(TourDriver::stageVariable, QString::number(index));
+    environment.insert(TourDriver::folderVariable, folder);
+    environment.insert(TourDriver::seenVariable, lastSeen);
+    // The stages see what this process sees, and start in English.
+    environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QGuiApplication::platformName());
+    environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
+    program.setProcessEnvironment(environment);
+    program.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    program.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--data-dir"), data.filePath(stage.folder)});
+    *end = failureOf(program);
+
+    QStringList reports;
+    for (const QString &line : QString::fromUtf8(program.readAllStandardOutput()).split(QLatin1Char('\n'))) {
+        if (line.startsWith(TourDriver::reportMark))
+            reports.append(line.mid(TourDriver::reportMark.size() + 1));
+    }
+    return reports;
+}
+
+void Tour::runStage(int index, const TourStage &stage)
+{
+    QString end;
+    const QStringList reports = reportsOf(index, stage, &end);
+    const QString programEnd = QStringLiteral("the program %1").arg(end.isEmpty() ? endedWell : end);
+    for (int step = 0; step < stage.steps.size(); ++step) {
+        const QString &did = stage.steps.at(step).did;
+        const QString report = reports.value(step);
+        if (!report.isEmpty())
+            record(did, lastSeen = report.mid(3), report.startsWith(QLatin1String("ok ")));
+        else
+            record(did, programEnd, end.isEmpty() && stage.steps.at(step).look.isEmpty() && step == reports.size());
+    }
+}
+
+void Tour::record(const QString &did, const QString &seen, bool ok)
+{
+    ++steps;
+    failures += ok ? 0 : 1;
+    const QString line = QStringLiteral("%1 | %2 | %3 | %4\n")
+                             .arg(steps, 2, 10, QLatin1Char('0'))
+                             .arg(did, seen, ok ? QStringLiteral("ok") : QStringLiteral("not ok"));
+    text.write(line.toUtf8());
+    text.flush();
+    std::fputs(qUtf8Printable(line), stdout);
+    std::fflush(stdout);
+}
+
+} // namespace kelvra_client

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QString>
+#include <QVector>
+
+#include <functional>
+
+namespace kelvra_client {
+
+class TourDriver;
+
+/** One thing the tour does, and what must be seen of it within a few seconds. */
+struct TourStep
+{
+    using Act = std::function<void(TourDriver &driver)>;
+    /** Whether `seen` is right, given what the step before has seen (in the stage before, too). */
+    using Check = std::function<bool(const QString &seen, const QString &before)>;
+
+    QString did;
+    QVector<Act> acts; ///< one after the other, with a turn of the event loop between two
+    QString look;      ///< a sentence with names of widgets in braces; empty: the program is to end by itself
+    Check check;
+    QString picture; ///< name of the picture taken when the check holds, empty for none
+    int holdsMs = 0; ///< for how long the check must hold before
+};
+
+/** One run of the program on one of the throw-away data folders. */
+struct TourStage
+{
+    QString folder;
+    QVector<TourStep> steps;
+};
+
+/** What the tour does, in the order of the pictures. */
+class TourScript
+{
+public:
+    TourScript() = delete;
+
+    static QVector<TourStage> stages();
+};
+
+} // namespace kelvra_client
