@@ -8,11 +8,13 @@
 #include "host/kelvra_worker/SystemWorker.h"
 #include "host/kelvra_worker/UiSettings.h"
 
+#include <QApplication>
 #include <QDirIterator>
 #include <QLabel>
 #include <QRegularExpression>
 #include <QSettings>
 #include <QTemporaryDir>
+#include <QTimer>
 #include <QtTest>
 
 using namespace kelvra_worker;
@@ -94,8 +96,26 @@ private slots:
         WorkerSetup::setDataFolder(folder.filePath("blocked"));
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^Settings cannot be written to .*blocked"));
         settings.setValue("client_login_mode", 0);
-        QCOMPARE(settings.getValue("client_login_mode").toInt(), 0);
+        settings.setValue("client_login_mode", 2);
+        QCOMPARE(settings.getValue("client_login_mode").toInt(), 2);
+        QCOMPARE(QDir(folder.filePath("blocked")).entryList(QDir::Files), QStringList());
         WorkerSetup::setDataFolder(folder.path());
+
+        // The user is told once, when the operation is over.
+        QVERIFY(!QApplication::activeModalWidget());
+        QStringList told;
+        QTimer closer;
+        connect(&closer, &QTimer::timeout, [&told] {
+            if (QWidget *alert = QApplication::activeModalWidget()) {
+                told << alert->findChild<QLabel *>("text")->text();
+                alert->close();
+            }
+        });
+        closer.start(20);
+        QTRY_COMPARE(told.size(), 1);
+        QVERIFY(told.first().startsWith("Settings cannot be written"));
+        QTest::qWait(100);
+        QCOMPARE(told.size(), 1);
     }
 
     void currentUserIsRememberedWithoutThePassword()
@@ -140,19 +160,20 @@ private slots:
     {
         QTest::addColumn<QByteArray>("content");
         QTest::addColumn<QString>("record"); // "~" stands for the folder of the file
-        QTest::addColumn<QString>("warning");
-        QTest::newRow("empty") << QByteArray("; nothing\n") << "0 0 "
+        QTest::addColumn<QString>("problem");
+        QTest::newRow("empty") << QByteArray("; nothing\n") << "0 0 0 "
                                << "";
-        QTest::newRow("set") << QByteArray("[login]\ncloud_login=True\n[loading]\ncustom_image=1\nimage=/a/图.png\n")
-                             << "1 1 /a/图.png"
+        QTest::newRow("set") << QByteArray("[login]\ncloud_login=True\n[loading]\ncustom_image=1\nimage=/a/图.png\n"
+                                           "[recovery]\nreplace_superuser=true\n")
+                             << "1 1 1 /a/图.png"
                              << "";
-        QTest::newRow("beside") << QByteArray("[loading]\nimage=\"a, b.png\"\n") << "0 0 ~/a, b.png"
+        QTest::newRow("beside") << QByteArray("[loading]\nimage=\"a, b.png\"\n") << "0 0 0 ~/a, b.png"
                                 << "";
-        QTest::newRow("no flag") << QByteArray("[login]\ncloud_login=maybe\n[loading]\ncustom_image=true\n") << "0 1 "
+        QTest::newRow("no flag") << QByteArray("[login]\ncloud_login=maybe\n[loading]\ncustom_image=true\n") << "0 1 0 "
                                  << "login/cloud_login .*customize.ini";
-        QTest::newRow("list") << QByteArray("[loading]\nimage=a,b.png\n") << "0 0 "
+        QTest::newRow("list") << QByteArray("[loading]\nimage=a,b.png\n") << "0 0 0 "
                               << "loading/image .*customize.ini";
-        QTest::newRow("damaged") << QByteArray("[login\ncloud_login=true\n") << "0 0 "
+        QTest::newRow("damaged") << QByteArray("[login\ncloud_login=true\n") << "0 0 0 "
                                  << "customize.ini is damaged";
     }
 
@@ -160,15 +181,20 @@ private slots:
     {
         QFETCH(QByteArray, content);
         QFETCH(QString, record);
-        QFETCH(QString, warning);
+        QFETCH(QString, problem);
         const QTemporaryDir own;
         QFile file(own.filePath("customize.ini"));
         QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
         file.close();
-        if (!warning.isEmpty())
-            QTest::ignoreMessage(QtWarningMsg, QRegularExpression(warning));
-        const CustomizeInfo info = CustomizeFile(file.fileName()).read();
-        QCOMPARE(QString("%1 %2 ").arg(info.cloudLoginEnabled).arg(info.customLoadingImageEnabled) +
+        CustomizeFile customization(file.fileName());
+        QString error;
+        QCOMPARE(customization.read(&error), problem.isEmpty());
+        QVERIFY2(problem.isEmpty() ? error.isEmpty() : error.contains(QRegularExpression(problem)), qPrintable(error));
+        const CustomizeInfo info = customization.info();
+        QCOMPARE(QString("%1 %2 %3 ")
+                         .arg(info.cloudLoginEnabled)
+                         .arg(info.customLoadingImageEnabled)
+                         .arg(customization.isSuperUserReplaceable()) +
                      info.loadingImagePath,
                  record.replace('~', own.path()));
         QVERIFY(file.open(QIODevice::ReadOnly));
@@ -179,14 +205,18 @@ private slots:
     {
         const QTemporaryDir own;
         QFile file(own.filePath("customize.ini"));
-        CustomizeFile(file.fileName()).read();
+        CustomizeFile customization(file.fileName());
+        QVERIFY(customization.read() && !file.exists());
+        QVERIFY(customization.createIfMissing());
         QVERIFY(file.open(QIODevice::ReadOnly));
         const QByteArray text = file.readAll();
-        for (const char *line :
-             {"Default: false\ncloud_login=false\n", "Default: false\ncustom_image=false\n", "\nimage=\n"})
+        for (const char *line : {"Default: false\ncloud_login=false\n", "Default: false\ncustom_image=false\n",
+                                 "\nimage=\n", "Default: false\nreplace_superuser=false\n"})
             QVERIFY2(text.contains(line), line);
-        const CustomizeInfo info = CustomizeFile(file.fileName()).read();
+        QVERIFY(customization.read());
+        const CustomizeInfo info = customization.info();
         QVERIFY(!info.cloudLoginEnabled && !info.customLoadingImageEnabled && info.loadingImagePath.isEmpty());
+        QVERIFY(!customization.isSuperUserReplaceable());
     }
 
 private:

@@ -1,0 +1,382 @@
+#include "client/kelvra_data/Store.h"
+#include "client/kelvra_data/UserAdmin.h"
+#include "client/kelvra_worker/AuditTrail.h"
+#include "client/shell/MainWindow.h"
+#include "host/kelvra_contact/SystemMsg.h"
+#include "host/kelvra_data/UserData.h"
+#include "host/kelvra_worker/LoginLogs.h"
+#include "host/kelvra_worker/SysLanguage.h"
+
+#include <QComboBox>
+#include <QDialog>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPointer>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QTableView>
+#include <QTemporaryDir>
+#include <QtTest>
+
+using namespace kelvra_data;
+using kelvra_client::MainWindow;
+using kelvra_client::SessionInfo;
+using kelvra_contact::SystemMsg;
+using kelvra_worker::AuditEvent;
+using kelvra_worker::AuditTrail;
+using kelvra_worker::Language;
+using kelvra_worker::LoginLogs;
+using kelvra_worker::SysLanguage;
+
+namespace {
+
+UserAdmin &admin()
+{
+    return UserAdmin::_instance();
+}
+
+UserData &users()
+{
+    return UserData::_instance();
+}
+
+SuperUserInfo superUser(const QString &name)
+{
+    SuperUserInfo info;
+    info.userName = name;
+    info.password = "468024";
+    info.role = SuperUserRole;
+    info.answer1 = info.answer2 = info.answer3 = "468024";
+    return info;
+}
+
+QStringList column(const QTableView *table, int column)
+{
+    QStringList texts;
+    for (int row = 0; row < table->model()->rowCount(); ++row)
+        texts << table->model()->index(row, column).data().toString();
+    return texts;
+}
+
+QStringList auditEvents()
+{
+    QStringList events;
+    for (const AuditEntry &entry : Store::_instance().auditLog(100))
+        events << entry.event + " " + entry.user;
+    return events;
+}
+
+void fill(const QDialog *dialog, const char *field, const QString &text)
+{
+    auto *edit = dialog->findChild<QLineEdit *>(field);
+    edit->clear();
+    QTest::keyClicks(edit, text);
+}
+
+void clickHeader(QTableView *table, int section)
+{
+    QHeaderView *header = table->horizontalHeader();
+    const QPoint place(header->sectionViewportPosition(section) + 5, header->height() / 2);
+    QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, place);
+}
+
+} // namespace
+
+class TestMainWindow : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        dir = std::make_unique<QTemporaryDir>();
+        QVERIFY(Store::_instance().open(dir->path()));
+        QVERIFY(users().addSuperUser(superUser("root")) && users().addSuperUserFromSaasUser("13800001111"));
+        QCOMPARE(admin().add("bob", "secret"), UserAdmin::Done);
+        showWindowFor("root");
+    }
+
+    void cleanup()
+    {
+        window.reset();
+        SysLanguage::_instance().setLanguage(Language(0), false);
+        Store::_instance().setSuperUserReplaceable(false);
+        Store::_instance().close();
+    }
+
+    void refusalsAreSentences_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("password");
+        QTest::addColumn<QString>("sentence");
+        const auto row = [](const char *tag, const QString &name, const QString &password, const char *sentence) {
+            QTest::newRow(tag) << name << password << QString(sentence);
+        };
+        row("no name", "", "pw", "Please enter a user name.");
+        row("blank name", " \t", "pw", "Please enter a user name.");
+        row("space in the name", "a b", "pw", "The user name must not contain spaces or control characters.");
+        row("long name", QString(65, 'n'), "pw", "The user name must not be longer than 64 characters.");
+        row("superuser", "root", "pw", "This user name is already in use.");
+        row("account", "13800001111", "pw", "This user name is already in use.");
+        row("other user", "bob", "pw", "This user name is already in use.");
+        row("no password", "eve", "", "Please enter a password.");
+        row("space in the password", "eve", "a b", "The password must not contain spaces or control characters.");
+        row("long password", "eve", QString(17, 'p'), "The password must not be longer than 16 characters.");
+    }
+
+    void refusalsAreSentences()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, password);
+        QFETCH(QString, sentence);
+        QCOMPARE(UserAdmin::sentence(admin().add(name, password)), sentence);
+
+        const QPointer<QDialog> add = openDialog("addUserBt");
+        fill(add, "userName", name);
+        fill(add, "newPwd", password);
+        fill(add, "confirmPwd", password);
+        QTest::keyClick(add, Qt::Key_Enter);
+        const auto *error = add->findChild<QLabel *>("error");
+        QCOMPARE(error->text(), sentence);
+        const QString refused = sentence.contains("name") ? "userName" : "newPwd";
+        QCOMPARE(QApplication::focusWidget()->objectName(), refused);
+        SysLanguage::_instance().setLanguage(Language(1), false);
+        QTRY_VERIFY(!error->text().isEmpty() && error->text() != sentence);
+        QTest::keyClicks(QApplication::focusWidget(), "x"); // typing on takes the sentence away
+        QVERIFY(error->text().isEmpty());
+        QTest::mouseClick(add->findChild<QPushButton *>("cancelBt"), Qt::LeftButton);
+        QTRY_VERIFY(!add);
+        QVERIFY(admin().users().size() == 1 && auditEvents().isEmpty());
+    }
+
+    void removedUserIsForgotten()
+    {
+        for (const char *name : {"root", "13800001111", "nobody"}) {
+            QCOMPARE(admin().remove(name), UserAdmin::NoSuchUser);
+            QCOMPARE(admin().setPassword(name, "changed"), UserAdmin::NoSuchUser);
+        }
+        QVERIFY(users().verifyUserPassword("root", "468024"));
+        QVERIFY(users().updateUserLoginRecord("bob", true));
+        QCOMPARE(users().getLastLoggedLocalUser(), QString("bob"));
+        QCOMPARE(admin().remove("bob"), UserAdmin::Done);
+        QVERIFY(users().getLastLoggedLocalUser().isEmpty() && users().isSuperUserExist(SuperUserRole));
+        Store::_instance().close();
+        QCOMPARE(admin().add("eve", "pw"), UserAdmin::NotStored);
+        QCOMPARE(admin().remove("bob"), UserAdmin::NotStored);
+    }
+
+    void superUserIsReplacedAsAWhole()
+    {
+        QVERIFY(users().updateUserGesture("bob", "0124") && users().updateUserLoginRecord("bob", true));
+        QVERIFY(users().updateLockInfo(true, 99));
+        QVERIFY(!users().addSuperUser(superUser("ada")) && users().isSuperUser("root"));
+
+        Store::_instance().setSuperUserReplaceable(true);
+        QVERIFY(!users().addSuperUser(superUser("13800001111")));
+        QVERIFY(users().isSuperUser("root") && users().verifyUserGesture("bob", "0124"));
+        QVERIFY(users().getLastLoggedLocalUser() == "bob" && auditEvents().isEmpty());
+        bool locked = false;
+        int seconds = 0;
+        QVERIFY(users().getLockInfo(locked, seconds) && locked && seconds == 99);
+
+        QVERIFY(users().addSuperUser(superUser("ada")));
+        QCOMPARE(users().getSuperUserInfo({}).userName, QString("ada"));
+        QVERIFY(!users().isUserExist("root") && !users().isUserExist("bob") && users().isUserExist("13800001111"));
+        QVERIFY(users().getLastLoggedLocalUser().isEmpty());
+        QVERIFY(users().getLockInfo(locked, seconds) && !locked && seconds == 0);
+        QCOMPARE(auditEvents(), QStringList("superuser replaced root"));
+    }
+
+    void usersAreManagedInDialogs()
+    {
+        const QString longest(64, 'n');
+        const QPointer<QDialog> add = openDialog("addUserBt");
+        QVERIFY(add && add->objectName() == "addUserDlg" && QApplication::focusWidget()->objectName() == "userName");
+        fill(add, "userName", longest);
+        fill(add, "newPwd", "0123456789abcdef");
+        fill(add, "confirmPwd", "0123456789abcdeF");
+        QTest::keyClick(add, Qt::Key_Return);
+        QCOMPARE(add->findChild<QLabel *>("error")->text(), QString("The two passwords are not the same."));
+        fill(add, "confirmPwd", "0123456789abcdef");
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+        QTRY_VERIFY(!add);
+        QVERIFY(users().verifyUserPassword(longest, "0123456789abcdef") && !users().isSuperUser(longest));
+        const auto *table = child<QTableView>("usersTable");
+        QCOMPARE(column(table, 0), QStringList({"bob", longest}));
+        QCOMPARE(table->currentIndex().siblingAtColumn(0).data().toString(), longest);
+
+        select("bob");
+        const QPointer<QDialog> set = openDialog("setPwdBt");
+        QVERIFY(set && set->objectName() == "setPwdDlg" && QApplication::focusWidget()->objectName() == "newPwd");
+        fill(set, "newPwd", "Changed");
+        fill(set, "confirmPwd", "Changed");
+        QTest::mouseClick(set->findChild<QPushButton *>("okBt"), Qt::LeftButton);
+        QTRY_VERIFY(!set);
+        QVERIFY(users().verifyUserPassword("bob", "Changed") && !users().verifyUserPassword("bob", "secret"));
+        QCOMPARE(auditEvents(), QStringList({"set password bob", "add user " + longest}));
+    }
+
+    void removalIsAskedBack()
+    {
+        QVERIFY(!child<QPushButton>("removeUserBt")->isEnabled());
+        for (const char *button : {"cancelBt", "okBt"}) {
+            select("bob");
+            const QPointer<QDialog> alert = openDialog("removeUserBt");
+            QVERIFY(alert && alert->findChild<QLabel *>("text")->text().contains("bob"));
+            QVERIFY(users().isUserExist("bob"));
+            QTest::mouseClick(alert->findChild<QPushButton *>(button), Qt::LeftButton);
+            QTRY_VERIFY(!alert);
+        }
+        QVERIFY(!users().isUserExist("bob"));
+        QCOMPARE(child<QTableView>("usersTable")->model()->rowCount(), 0);
+        QVERIFY(!child<QPushButton>("setPwdBt")->isEnabled());
+        QCOMPARE(auditEvents(), QStringList("remove user bob"));
+
+        // Somebody else may be quicker.
+        QCOMPARE(admin().add("eve", "pw"), UserAdmin::Done);
+        window->loadUsers();
+        select("eve");
+        const QPointer<QDialog> set = openDialog("setPwdBt");
+        QCOMPARE(admin().remove("eve"), UserAdmin::Done);
+        fill(set, "newPwd", "pw");
+        fill(set, "confirmPwd", "pw");
+        QTest::keyClick(set, Qt::Key_Return);
+        QCOMPARE(set->findChild<QLabel *>("error")->text(), QString("This user no longer exists."));
+        QTest::keyClick(set, Qt::Key_Escape);
+        QTRY_COMPARE(child<QTableView>("usersTable")->model()->rowCount(), 0);
+    }
+
+    void ordinaryUserIsOnlyTold()
+    {
+        showWindowFor("bob");
+        QCOMPARE(child<QLabel>("currentUser")->text(), QString("bob"));
+        for (const char *name : {"addUserBt", "setPwdBt", "removeUserBt", "usersTable"})
+            QVERIFY2(!child<QWidget>(name)->isVisible(), name);
+        QCOMPARE(child<QTableView>("usersTable")->model()->rowCount(), 0);
+        QVERIFY(child<QLabel>("usersNote")->isVisible() && child<QLabel>("usersNote")->text().contains("root"));
+
+        QCOMPARE(admin().remove("bob"), UserAdmin::Done);
+        AuditTrail::_instance().write(AuditEvent::RemoveUser, "bob");
+        QCOMPARE(child<QLabel>("currentRole")->text(), QString("This user has been removed"));
+    }
+
+    void auditLogIsAlive()
+    {
+        auto *table = child<QTableView>("auditTable");
+        LoginLogs::_instance().lockUserLog("zoe", 180);
+        LoginLogs::_instance().loginSuccessLog("amy", 1, false);
+        LoginLogs::_instance().loginFailureLog("bob", 0);
+        QCOMPARE(column(table, 2), QStringList({"bob", "amy", "zoe"}));
+        QCOMPARE(column(table, 3), QStringList({"by password", "by gesture", "for 180 seconds"}));
+        clickHeader(table, 2);
+        QCOMPARE(column(table, 2), QStringList({"amy", "bob", "zoe"}));
+        LoginLogs::_instance().addGestureLog("ben");
+        QCOMPARE(column(table, 2), QStringList({"amy", "ben", "bob", "zoe"}));
+        clickHeader(table, 0);
+        QCOMPARE(column(table, 2), QStringList({"zoe", "amy", "bob", "ben"}));
+
+        QVERIFY(users().userAutoLoginCtrl("root", true));
+        QCOMPARE(child<QLabel>("autoLogin")->text(), QString("By hand"));
+        LoginLogs::_instance().openAutoLoginLog("root");
+        QCOMPARE(child<QLabel>("autoLogin")->text(), QString("Automatic"));
+    }
+
+    void auditLogStaysInPlaceAndBounded()
+    {
+        auto *table = child<QTableView>("auditTable");
+        QVERIFY(Store::_instance()
+                    .run("WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 1500) "
+                         "INSERT INTO audit_log (at, event, user) "
+                         "SELECT '2024-01-01T00:00:00.000Z', 'lock', 'user' || i FROM n")
+                    .isActive());
+        window->loadAuditLog();
+        QCOMPARE(table->model()->rowCount(), 1000);
+        LoginLogs::_instance().lockUserLog("top", 1);
+        // Equal times do not mix up what came first.
+        QCOMPARE(column(table, 2).mid(0, 3), QStringList({"top", "user1500", "user1499"}));
+        QTRY_VERIFY(table->verticalScrollBar()->maximum() > 401);
+        QCOMPARE(table->verticalScrollBar()->value(), 0); // at the top the newest comes into sight
+
+        table->verticalScrollBar()->setValue(401);
+        const QImage before = table->viewport()->grab().toImage();
+        LoginLogs::_instance().lockUserLog("next", 1);
+        LoginLogs::_instance().lockUserLog("after that", 1);
+        QCOMPARE(table->viewport()->grab().toImage(), before);
+        QCOMPARE(table->model()->rowCount(), 1000);
+    }
+
+    void languageIsFollowed()
+    {
+        auto *box = child<QComboBox>("languageBox");
+        LoginLogs::_instance().loginFailureLog("bob", 0);
+        QCOMPARE(box->currentText(), QString("English"));
+        QTest::keyClick(box, Qt::Key_Down);
+        QTRY_COMPARE(child<QPushButton>("addUserBt")->text(), QString("添加用户"));
+        QCOMPARE(int(SysLanguage::_instance().getLanguage()), 1);
+        const auto *table = child<QTableView>("auditTable");
+        QCOMPARE(table->model()->index(0, 1).data().toString(), QString("登录失败"));
+        QCOMPARE(table->model()->headerData(0, Qt::Horizontal).toString(), QString("时间"));
+        SysLanguage::_instance().setLanguage(Language(0), false);
+        QTRY_COMPARE(box->currentText(), QString("English"));
+        QCOMPARE(child<QLabel>("currentRole")->text(), QString("Superuser"));
+    }
+
+    void closingQuitsOnce()
+    {
+        QStringList heard;
+        connect(&SystemMsg::_instance(), &SystemMsg::signalPrepareQuitSystem, this, [&] { heard << "prepare"; });
+        connect(&SystemMsg::_instance(), &SystemMsg::signalQuitSystem, this, [&] { heard << "quit"; });
+        QSignalSpy switches(window.get(), &MainWindow::signalSwitchUser);
+        QTest::mouseClick(child<QPushButton>("switchUserBt"), Qt::LeftButton);
+        QVERIFY(switches.count() == 1 && heard.isEmpty());
+        QTest::mouseClick(child<QPushButton>("quitBt"), Qt::LeftButton);
+        window->close();
+        QCOMPARE(heard, QStringList({"prepare", "quit"}));
+        disconnect(&SystemMsg::_instance(), nullptr, this, nullptr);
+    }
+
+private:
+    template <typename T>
+    T *child(const char *name) const
+    {
+        return window->findChild<T *>(name);
+    }
+
+    QDialog *openDialog(const char *button) const
+    {
+        QTest::mouseClick(child<QPushButton>(button), Qt::LeftButton);
+        auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+        return QTest::qWaitFor([&] { return dialog && QApplication::activeWindow() == dialog; }) ? dialog : nullptr;
+    }
+
+    void showWindowFor(const QString &user)
+    {
+        window = std::make_unique<MainWindow>();
+        SessionInfo session;
+        session.user = user;
+        session.method = SessionInfo::PasswordMethod;
+        session.since = QDateTime::currentDateTime();
+        window->setSession(session);
+        window->loadUsers();
+        window->loadAuditLog();
+        window->show();
+        QVERIFY(QTest::qWaitForWindowActive(window.get()));
+    }
+
+    void select(const QString &user) const
+    {
+        auto *table = child<QTableView>("usersTable");
+        const int row = column(table, 0).indexOf(user);
+        QTest::mouseClick(table->viewport(), Qt::LeftButton, {},
+                          table->visualRect(table->model()->index(row, 0)).center());
+    }
+
+    std::unique_ptr<QTemporaryDir> dir;
+    std::unique_ptr<MainWindow> window;
+};
+
+QTEST_MAIN(TestMainWindow)
+
+#include "tst_mainwindow.moc"
