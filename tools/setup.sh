@@ -4,9 +4,9 @@ say() {
     printf '== %s\n' "$*"
 }
 
-# What a build needs; the font is the one that the client puts in place of "microsoft yahei".
+# What a build needs; the fonts are those that the client puts in place of "microsoft yahei".
 build_packages="g++ cmake ninja-build pkg-config qtbase5-dev qttools5-dev qttools5-dev-tools libsodium-dev
-    libqt5sql5-sqlite fonts-wqy-microhei"
+    libqt5sql5-sqlite fonts-open-sans fonts-wqy-microhei"
 
 # install_missing PACKAGE...: installs what is not there yet, or names it and stops.
 install_missing() {

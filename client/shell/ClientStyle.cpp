@@ -27,8 +27,8 @@ QFont createFont()
 {
     const QString family = QStringLiteral("microsoft yahei");
     // Asked for one by one when a text is drawn, so no list of installed fonts is needed here.
-    QFont::insertSubstitutions(family, {QStringLiteral("WenQuanYi Micro Hei"), QStringLiteral("Noto Sans CJK SC"),
-                                        QStringLiteral("DejaVu Sans")});
+    QFont::insertSubstitutions(family, {QStringLiteral("Open Sans"), QStringLiteral("WenQuanYi Micro Hei"),
+                                        QStringLiteral("Noto Sans CJK SC"), QStringLiteral("DejaVu Sans")});
     QFont font(family);
     font.setPixelSize(fontPixels);
     return font;

@@ -204,8 +204,9 @@ void TourInput::press(int key, Qt::KeyboardModifiers modifiers, const QString &t
         window = QApplication::activeWindow();
     if (!window && !windows.isEmpty())
         window = windows.first();
+    // The press may close the window.
+    const QPointer<QWidget> guard(window);
     for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
-        const QPointer<QWidget> guard(window);
         if (guard && guard->windowHandle())
             qt_handleKeyEvent(guard->windowHandle(), type, key, modifiers, text, false, 1);
     }
