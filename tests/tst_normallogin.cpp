@@ -171,6 +171,9 @@ private slots:
             submit(by);
             QCOMPARE(deeds(), loginDeeds("alice", "false"));
         }
+        QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, {}, "\r", true);
+        QCoreApplication::sendEvent(pwdEdit(), &held);
+        QCOMPARE(deeds(), QStringList());
         QTest::mouseClick(autoLoginBox(), Qt::LeftButton, {}, QPoint(8, 14));
         submit("localLoginBt");
         QCOMPARE(deeds(), loginDeeds("alice", "true"));
@@ -325,6 +328,12 @@ private slots:
         QCOMPARE(stored(true, 100, "Locked, Wait:99Sec."), QString("updateLockInfo(true,99)"));
         QCOMPARE(stored(true, 0, "Locked, Wait:0Sec."), QString("updateLockInfo(false,300)"));
         QCOMPARE(stored(false, 0, "Login"), QString("nothing"));
+
+        remember("alice");
+        open();
+        emit SystemMsg::_instance().signalPrepareQuitSystem();
+        QTest::qWait(idleMs); // nobody is logged in while the client quits
+        QCOMPARE(deeds(), QStringList());
     }
 
     void focusMarksTheFields()
@@ -333,8 +342,8 @@ private slots:
         const auto framed = [this](const char *field) {
             return child<QWidget>(field)->styleSheet().contains("border:1px solid #2c7dce");
         };
+        QVERIFY(nameEdit()->hasFocus());
         QTest::mouseMove(child<QLabel>("label"));
-        nameEdit()->setFocus();
         QVERIFY(framed("localUserWt") && !framed("localPwdWt"));
         QTest::keyClick(nameEdit(), Qt::Key_Tab);
         QVERIFY(pwdEdit()->hasFocus() && !framed("localUserWt") && framed("localPwdWt"));

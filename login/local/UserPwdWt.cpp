@@ -135,8 +135,6 @@ void UserPwdWt::updateEyeIcon(bool highlighted)
 void UserPwdWt::showPassword(bool shown)
 {
     ui->pwd->setEchoMode(shown ? QLineEdit::Normal : QLineEdit::Password);
-    // The normal echo mode switches input methods on again.
-    ui->pwd->setAttribute(Qt::WA_InputMethodEnabled, false);
     updateEyeIcon(true);
 }
 
