@@ -1,0 +1,49 @@
+#pragma once
+
+#include "host/ZCommon/ZSingleton.h"
+#include "login/Export.h"
+
+#include <QObject>
+
+class QWidget;
+
+namespace kelvra_login {
+class LoginAccess;
+}
+
+ZSINGLETON_DECLARE(KELVRA_LOGIN_EXPORT, kelvra_login::LoginAccess)
+
+namespace kelvra_login {
+
+/**
+ * What the rest of the client asks of the module once a user is logged in. Nothing here keeps state; the current
+ * user is the one that SystemWorker knows. GUI thread only.
+ */
+class KELVRA_LOGIN_EXPORT LoginAccess : public QObject, public ZCOMMON::ZSingleton<LoginAccess>
+{
+    Q_OBJECT
+
+public:
+    ~LoginAccess() override;
+
+    /**
+     * Shows the superuser's password to whoever answers the security questions or has the login-credentials file.
+     * Blocks in an event loop of its own until the dialog is closed; `parent` may be destroyed meanwhile.
+     */
+    void getbackPassword(QWidget *parent);
+
+    /**
+     * Writes the superuser's login-credentials file, 128 to 256 bytes that lead back in when the password is lost.
+     * A file that is there already is replaced; a failure leaves things as they were. The user is told of either by
+     * a modal alert.
+     *
+     * @param filePath where to; with an empty path nothing happens
+     */
+    void exportLoginCredentials(const QString &filePath);
+
+private:
+    friend class ZCOMMON::ZSingleton<LoginAccess>;
+    explicit LoginAccess(QObject *parent);
+};
+
+} // namespace kelvra_login
