@@ -4,16 +4,27 @@
 #include "host/kelvra_contact/SystemMsg.h"
 #include "host/kelvra_data/UserData.h"
 #include "host/kelvra_worker/SysLanguage.h"
+#include "login/frame/LoginAccess.h"
 #include "ui_MainWindow.h"
 
+#include <QApplication>
 #include <QCloseEvent>
+#include <QFileDialog>
+#include <QStandardPaths>
 
 using kelvra_contact::SystemMsg;
 using kelvra_data::UserData;
+using kelvra_login::LoginAccess;
 using kelvra_worker::AuditTrail;
 using kelvra_worker::SysLanguage;
 
 namespace kelvra_client {
+
+namespace {
+
+const QString credentialsFileName = QStringLiteral("login-credentials.dat");
+
+} // namespace
 
 MainWindow::MainWindow(QWidget *parent)
     : QWidget(parent)
@@ -24,6 +35,8 @@ MainWindow::MainWindow(QWidget *parent)
     fillLanguageBox();
     ui->auditLogWt->setFocus();
     connect(ui->switchUserBt, &QPushButton::clicked, this, &MainWindow::signalSwitchUser);
+    connect(ui->getbackPwdBt, &QPushButton::clicked, this, &MainWindow::getBackPassword);
+    connect(ui->exportCredentialsBt, &QPushButton::clicked, this, &MainWindow::askForCredentialsFile);
     connect(ui->quitBt, &QPushButton::clicked, this, &MainWindow::close);
     // Whatever is recorded may have changed what is shown here, by whose hand ever.
     connect(&AuditTrail::_instance(), &AuditTrail::entryAdded, this, &MainWindow::loadUsers);
@@ -93,6 +106,40 @@ void MainWindow::showSession()
     ui->loginMethod->setText(wayOfLogin());
     ui->loginSince->setText(session.since.toString(SessionInfo::timeFormat));
     ui->autoLogin->setText(UserData::_instance().isUserAutoLogin(session.user) ? tr("Automatic") : tr("By hand"));
+    showOperations();
+}
+
+void MainWindow::showOperations()
+{
+    auto &userData = UserData::_instance();
+    // Both lead to the password of the local superuser, which is no business of an ordinary user's.
+    const bool allowed = userData.isSuperUser(session.user) && userData.isSuperUserExist(kelvra_data::SuperUserRole);
+    ui->getbackPwdBt->setVisible(allowed);
+    ui->exportCredentialsBt->setVisible(allowed);
+}
+
+void MainWindow::getBackPassword()
+{
+    LoginAccess::_instance().getbackPassword(this);
+}
+
+void MainWindow::askForCredentialsFile()
+{
+    auto *dialog = new QFileDialog(this, tr("Export login credentials"),
+                                   QStandardPaths::writableLocation(QStandardPaths::DesktopLocation));
+    dialog->setObjectName(QStringLiteral("exportDlg"));
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->selectFile(credentialsFileName);
+    connect(dialog, &QFileDialog::fileSelected, this, &MainWindow::exportCredentials, Qt::QueuedConnection);
+    dialog->open();
+}
+
+void MainWindow::exportCredentials(const QString &path)
+{
+    // What there is to say of it stands before this window, which may not have got its place back from the dialog yet.
+    QApplication::setActiveWindow(this);
+    LoginAccess::_instance().exportLoginCredentials(path);
 }
 
 QString MainWindow::role() const

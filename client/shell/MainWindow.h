@@ -38,6 +38,10 @@ private:
     void fillLanguageBox();
     void showLanguage();
     void showSession();
+    void showOperations();
+    void getBackPassword();
+    void askForCredentialsFile();
+    void exportCredentials(const QString &path);
     QString role() const;
     QString wayOfLogin() const;
 

@@ -65,7 +65,7 @@ QString missingValue(const QCommandLineParser &parser)
 
 QString wrongUse(const QCommandLineParser &parser)
 {
-    const QString missing = missingValue(parser);
+    QString missing = missingValue(parser);
     if (!missing.isEmpty())
         return missing;
     if (!parser.positionalArguments().isEmpty())

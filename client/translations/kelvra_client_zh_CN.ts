@@ -327,6 +327,14 @@
         <source>This user has been removed</source>
         <translation>该用户已被删除</translation>
     </message>
+    <message>
+        <source>Get back password</source>
+        <translation>找回密码</translation>
+    </message>
+    <message>
+        <source>Export login credentials</source>
+        <translation>导出登录凭证</translation>
+    </message>
 </context>
 <context>
     <name>kelvra_client::NewPwdDlg</name>

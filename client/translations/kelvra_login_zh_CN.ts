@@ -2,6 +2,103 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN">
 <context>
+    <name>kelvra_login::CreateSuperUserWt</name>
+    <message>
+        <source>CreateSuperUserWt</source>
+        <translation>创建超级用户</translation>
+    </message>
+    <message>
+        <source>Welcome to login</source>
+        <translation>欢迎登录</translation>
+    </message>
+    <message>
+        <source>Create a  new local superuser</source>
+        <translation>创建新的本地超级用户</translation>
+    </message>
+    <message>
+        <source>Automatic Logon</source>
+        <translation>自动登录</translation>
+    </message>
+    <message>
+        <source>Create</source>
+        <translation>创建</translation>
+    </message>
+    <message>
+        <source>User name can not be empty or be all blank!</source>
+        <translation>用户名不能为空或全为空格！</translation>
+    </message>
+    <message>
+        <source>User name already exists!</source>
+        <translation>用户名已存在！</translation>
+    </message>
+    <message>
+        <source>Illegal password!</source>
+        <translation>密码不符合要求！</translation>
+    </message>
+    <message>
+        <source>The two passwords are not the same!</source>
+        <translation>两次输入的密码不一致！</translation>
+    </message>
+    <message>
+        <source>Super User Name</source>
+        <translation>超级用户名</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>密码</translation>
+    </message>
+    <message>
+        <source>Confirm Password</source>
+        <translation>确认密码</translation>
+    </message>
+</context>
+<context>
+    <name>kelvra_login::GetbackPwdDlg</name>
+    <message>
+        <source>Please answer questions or</source>
+        <translation>请回答密保问题或</translation>
+    </message>
+    <message>
+        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;&lt;span style=&quot; text-decoration: underline;&quot;&gt;import Credentials&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;&lt;span style=&quot; text-decoration: underline;&quot;&gt;导入登录凭证&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>密码：</translation>
+    </message>
+    <message>
+        <source>Get Back</source>
+        <translation>找回</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Get Back Password</source>
+        <translation>找回密码</translation>
+    </message>
+    <message>
+        <source>verify user answers failed</source>
+        <translation>密保答案验证失败</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>复制</translation>
+    </message>
+</context>
+<context>
+    <name>kelvra_login::LoginAccess</name>
+    <message>
+        <source>Failed to export login credentials</source>
+        <translation>导出登录凭证失败</translation>
+    </message>
+    <message>
+        <source>Export login credentials success, you can get back or reset password using login credentials</source>
+        <translation>登录凭证导出成功，您可以使用登录凭证找回或重置密码</translation>
+    </message>
+</context>
+<context>
     <name>kelvra_login::LoginDlg</name>
     <message>
         <source>LoginDlg</source>
@@ -156,6 +253,133 @@
     </message>
 </context>
 <context>
+    <name>kelvra_login::PageParts</name>
+    <message>
+        <source>answer can not be empty or be all blank!</source>
+        <translation>答案不能为空或全为空格！</translation>
+    </message>
+</context>
+<context>
+    <name>kelvra_login::PwdTipWt</name>
+    <message>
+        <source>PwdTipWt</source>
+        <translation>密码规则</translation>
+    </message>
+    <message>
+        <source>Only two or more combinations of numbers, lowercase letters, uppercase letters and special characters can be used</source>
+        <translation>必须包含数字、小写字母、大写字母和特殊字符中的两种或两种以上</translation>
+    </message>
+    <message>
+        <source>Password length:8-16</source>
+        <translation>密码长度：8-16 位</translation>
+    </message>
+    <message>
+        <source>The password cannot be the same as or opposite to the user name</source>
+        <translation>密码不能与用户名或用户名的倒序相同</translation>
+    </message>
+</context>
+<context>
+    <name>kelvra_login::ResetSuperUserPwdWt</name>
+    <message>
+        <source>ResetSuperUserPwdWt</source>
+        <translation>重置密码</translation>
+    </message>
+    <message>
+        <source>Welcome to login</source>
+        <translation>欢迎登录</translation>
+    </message>
+    <message>
+        <source>Please reset a new password</source>
+        <translation>请设置新密码</translation>
+    </message>
+    <message>
+        <source>Automatic Logon</source>
+        <translation>自动登录</translation>
+    </message>
+    <message>
+        <source>Login</source>
+        <translation>登录</translation>
+    </message>
+    <message>
+        <source>User name can not be empty or be all blank!</source>
+        <translation>用户名不能为空或全为空格！</translation>
+    </message>
+    <message>
+        <source>Illegal password!</source>
+        <translation>密码不符合要求！</translation>
+    </message>
+    <message>
+        <source>The two passwords are not the same!</source>
+        <translation>两次输入的密码不一致！</translation>
+    </message>
+    <message>
+        <source>reset [%1] pwd failed</source>
+        <translation>重置 [%1] 的密码失败</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>密码</translation>
+    </message>
+    <message>
+        <source>Confirm Password</source>
+        <translation>确认密码</translation>
+    </message>
+</context>
+<context>
+    <name>kelvra_login::SecretAnswersWt</name>
+    <message>
+        <source>SecretAnswersWt</source>
+        <translation>密保问题</translation>
+    </message>
+    <message>
+        <source>Please enter the answer to question 1</source>
+        <translation>请输入问题 1 的答案</translation>
+    </message>
+    <message>
+        <source>Please enter the answer to question 2</source>
+        <translation>请输入问题 2 的答案</translation>
+    </message>
+    <message>
+        <source>Please enter the answer to question 3</source>
+        <translation>请输入问题 3 的答案</translation>
+    </message>
+</context>
+<context>
+    <name>kelvra_login::SetSecretAnswerWt</name>
+    <message>
+        <source>SetSecretAnswerWt</source>
+        <translation>设置密保问题</translation>
+    </message>
+    <message>
+        <source>Password protection</source>
+        <translation>密码保护</translation>
+    </message>
+    <message>
+        <source>Please set the security question</source>
+        <translation>请设置密保问题</translation>
+    </message>
+    <message>
+        <source>Please enter the answer to question 1</source>
+        <translation>请输入问题 1 的答案</translation>
+    </message>
+    <message>
+        <source>Please enter the answer to question 2</source>
+        <translation>请输入问题 2 的答案</translation>
+    </message>
+    <message>
+        <source>Please enter the answer to question 3</source>
+        <translation>请输入问题 3 的答案</translation>
+    </message>
+    <message>
+        <source>Login</source>
+        <translation>登录</translation>
+    </message>
+    <message>
+        <source>Failed to create super user</source>
+        <translation>创建超级用户失败</translation>
+    </message>
+</context>
+<context>
     <name>kelvra_login::SplashScreen</name>
     <message>
         <source>SplashScreen</source>
@@ -190,6 +414,37 @@
     <message>
         <source>password</source>
         <translation>密码</translation>
+    </message>
+</context>
+<context>
+    <name>kelvra_login::VerifySecretAnswerWt</name>
+    <message>
+        <source>VerifySecretAnswerWt</source>
+        <translation>验证密保问题</translation>
+    </message>
+    <message>
+        <source>Password protection</source>
+        <translation>密码保护</translation>
+    </message>
+    <message>
+        <source>Please answer questions or</source>
+        <translation>请回答密保问题或</translation>
+    </message>
+    <message>
+        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;&lt;span style=&quot; text-decoration: underline;&quot;&gt;import Credentials&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;&lt;span style=&quot; text-decoration: underline;&quot;&gt;导入登录凭证&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;&lt;span style=&quot; font-size:9pt; text-decoration: underline;&quot;&gt;Create New User&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;&lt;span style=&quot; font-size:9pt; text-decoration: underline;&quot;&gt;创建新用户&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+    </message>
+    <message>
+        <source>verify user answers failed</source>
+        <translation>密保答案验证失败</translation>
     </message>
 </context>
 </TS>
