@@ -1,5 +1,6 @@
 #include "fakehost/FakeHost.h"
 #include "host/kelvra_base/BaseTools.h"
+#include "login/frame/LoginAccess.h"
 #include "login/frame/LoginDlg.h"
 #include "login/frame/LoginSignals.h"
 #include "login/frame/LoginWorker.h"
@@ -9,6 +10,7 @@
 #include <QtTest>
 
 #ifdef Q_OS_UNIX
+#    include <csignal>
 #    include <sys/resource.h>
 #endif
 
@@ -327,7 +329,10 @@ private slots:
         QVERIFY(!worker.importLoginCredentials("root")); // cancelled
         QCOMPARE(host.calls, QStringList(QString("getOpenFileName(false,Select Login Credentials,%1,,false,0)")
                                              .arg(QStandardPaths::writableLocation(QStandardPaths::DesktopLocation))));
-        for (const QString &path : {folder.path(), folder.filePath("missing")}) {
+        const QString link = folder.filePath("link");
+        QVERIFY(QFile::link(folder.filePath("missing"), link));
+        writeCredentials({});
+        for (const QString &path : {folder.path(), folder.filePath("missing"), link, host.chosenFile}) {
             host.chosenFile = path;
             QVERIFY(!worker.importLoginCredentials("root"));
             QCOMPARE(alerts(), QStringList("Login credentials file is illegal"));
@@ -344,6 +349,55 @@ private slots:
         QCOMPARE(alerts(), QStringList("Failed to open login credentials file"));
 #endif
         QCOMPARE(host.callsOf({"checkSuperUserCredentials"}), QStringList());
+    }
+
+    void exportedCredentials()
+    {
+        const QTemporaryDir target;
+        const QDir dir(target.path());
+        const auto written = [&dir](const QString &name) {
+            LoginAccess::_instance().exportLoginCredentials(name.isEmpty() ? name : dir.filePath(name));
+            return deeds().join(' ');
+        };
+        const auto content = [&dir] {
+            QFile file(dir.filePath("file"));
+            return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+        };
+        host.currentUser = "ann";
+        host.credentials = QStringLiteral("Aé中") + QString(59, 'A');
+        const QByteArray bytes = QByteArray::fromHex("0000007c004100e94e2d") + QByteArray::fromHex("0041").repeated(59);
+        const QString asked = "generateSuperUserCredentials(root) ";
+        const QString failure = "Failed to export login credentials";
+        const QString failed = asked + "messageAlert(" + failure + ')';
+
+        QCOMPARE(written({}), QString());
+        for (int i = 0; i < 2; ++i) { // the second time over what is there
+            QCOMPARE(written("file"), asked + "exportLoginCredentialsLog(ann) messageAlert(Export login credentials "
+                                              "success, you can get back or reset password using login credentials)");
+            QCOMPARE(content(), bytes);
+            QVERIFY(QFile::resize(dir.filePath("file"), 300));
+        }
+        QCOMPARE(host.alerts.takeLast().first, QString("title 2"));
+        host.alerts.clear();
+        QVERIFY(dir.mkdir("folder"));
+        for (const char *name : {"folder", "missing/file", "/dev/full"})
+            QCOMPARE(written(name), failed);
+        QCOMPARE(alerts(), QStringList({failure, failure, failure}));
+#ifdef Q_OS_UNIX
+        std::signal(SIGXFSZ, SIG_IGN); // a full disk: no file gets larger than 100 bytes
+        rlimit size{};
+        getrlimit(RLIMIT_FSIZE, &size);
+        const rlimit small{100, size.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &small);
+        const QStringList full{written("file"), written("new")};
+        setrlimit(RLIMIT_FSIZE, &size);
+        QCOMPARE(full, QStringList({failed, failed}));
+#endif
+        host.credentials.clear();
+        QCOMPARE(written("new"), failed);
+        QCOMPARE(dir.entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+                 QStringList({"file", "folder"}));
+        QCOMPARE(content().left(bytes.size()), bytes);
     }
 
     void defaultSuperUser()

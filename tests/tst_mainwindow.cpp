@@ -6,6 +6,7 @@
 #include "host/kelvra_data/UserData.h"
 #include "host/kelvra_worker/LoginLogs.h"
 #include "host/kelvra_worker/SysLanguage.h"
+#include "host/kelvra_worker/SystemWorker.h"
 
 #include <QComboBox>
 #include <QDialog>
@@ -29,6 +30,7 @@ using kelvra_worker::AuditTrail;
 using kelvra_worker::Language;
 using kelvra_worker::LoginLogs;
 using kelvra_worker::SysLanguage;
+using kelvra_worker::SystemWorker;
 
 namespace {
 
@@ -260,6 +262,58 @@ private slots:
         QCOMPARE(admin().remove("bob"), UserAdmin::Done);
         AuditTrail::_instance().write(AuditEvent::RemoveUser, "bob");
         QCOMPARE(child<QLabel>("currentRole")->text(), QString("This user has been removed"));
+    }
+
+    void onlySuperUsersGetAtThePassword()
+    {
+        const auto offered = [this](const QString &user) {
+            showWindowFor(user);
+            return child<QPushButton>("getbackPwdBt")->isVisible() +
+                   child<QPushButton>("exportCredentialsBt")->isVisible();
+        };
+        QCOMPARE(offered("root"), 2);
+        QCOMPARE(offered("13800001111"), 2);
+        QCOMPARE(offered("bob"), 0);
+        // An account alone has no password here.
+        QVERIFY(Store::_instance().change("DELETE FROM users WHERE name = 'root'"));
+        QCOMPARE(offered("13800001111"), 0);
+    }
+
+    void credentialsAreExported()
+    {
+        SystemWorker::_instance().setCurUserInfo(kelvra_worker::LocalUser, "root", "468024", 0, false);
+        const QString path = dir->filePath("credentials");
+        const QPointer<QDialog> save = openDialog("exportCredentialsBt");
+        QVERIFY(save && save->objectName() == "exportDlg");
+        QCOMPARE(save->findChild<QLineEdit *>("fileNameEdit")->text(), QString("login-credentials.dat"));
+        fill(save, "fileNameEdit", path);
+        QTest::keyClick(save->findChild<QLineEdit *>("fileNameEdit"), Qt::Key_Return);
+        QTimer::singleShot(0, window.get(), [this] {
+            auto *alert = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+            const auto closed = qScopeGuard([alert] { alert->reject(); });
+            QVERIFY(alert && alert->parent() == window.get());
+            QVERIFY(alert->findChild<QLabel *>("text")->text().startsWith("Export login credentials success"));
+        });
+        QTRY_VERIFY(!save);
+        QCOMPARE(QFileInfo(path).size(), 156);
+        QCOMPARE(column(child<QTableView>("auditTable"), 1), QStringList("export login credentials"));
+    }
+
+    void passwordIsGotBack()
+    {
+        SystemWorker::_instance().setCurUserInfo(kelvra_worker::LocalUser, "root", "468024", 0, false);
+        QTimer::singleShot(0, window.get(), [this] {
+            auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+            const auto closed = qScopeGuard([dialog] { dialog->reject(); });
+            QVERIFY(dialog && dialog->parent() == window.get());
+            for (const char *field : {"answer_1", "answer_2", "answer_3"})
+                fill(dialog, field, "468024");
+            QTest::keyClick(dialog, Qt::Key_Return);
+            QCOMPARE(dialog->findChild<QLabel *>("password")->text(), QString("468024"));
+            QCOMPARE(column(child<QTableView>("auditTable"), 1), QStringList("get back password"));
+        });
+        QTest::mouseClick(child<QPushButton>("getbackPwdBt"), Qt::LeftButton);
+        QCOMPARE(auditEvents(), QStringList("get back password root"));
     }
 
     void auditLogIsAlive()

@@ -52,6 +52,14 @@ void runOnce(std::function<void()> &action)
 
 } // namespace
 
+QMap<int, QString> FakeHost::twelveQuestions()
+{
+    QMap<int, QString> questions;
+    for (int id = 0; id < 12; ++id)
+        questions.insert(10 * id, QStringLiteral("question %1").arg(10 * id));
+    return questions;
+}
+
 FakeHost &FakeHost::get()
 {
     static FakeHost host;
@@ -250,6 +258,25 @@ bool UserData::addSuperUserFromSaasUser(const QString &account)
     return true;
 }
 
+bool UserData::resetUserPwd(const QString &name, const QString &password)
+{
+    record("resetUserPwd", name, password);
+    return fake().resetUserPwdSucceeds;
+}
+
+bool UserData::verifySuperUserAnswers(const QString &name, const QString &answer1, const QString &answer2,
+                                      const QString &answer3)
+{
+    record("verifySuperUserAnswers", name, answer1, answer2, answer3);
+    return fake().answersRight;
+}
+
+QString UserData::generateSuperUserCredentials(const QString &name)
+{
+    record("generateSuperUserCredentials", name);
+    return fake().credentials;
+}
+
 bool UserData::checkSuperUserCredentials(const QString &name, const QString &credential)
 {
     record("checkSuperUserCredentials", name, credential);
@@ -339,6 +366,26 @@ void LoginLogs::lockUserLog(const QString &name, int seconds)
     record("lockUserLog", name, seconds);
 }
 
+void LoginLogs::resetUserPwdLog(const QString &name)
+{
+    record("resetUserPwdLog", name);
+}
+
+void LoginLogs::createUserLog(const QString &name)
+{
+    record("createUserLog", name);
+}
+
+void LoginLogs::getbackPwdLog(const QString &name)
+{
+    record("getbackPwdLog", name);
+}
+
+void LoginLogs::exportLoginCredentialsLog(const QString &name)
+{
+    record("exportLoginCredentialsLog", name);
+}
+
 class UiSettings::Private
 {
 };
@@ -390,6 +437,8 @@ DictDef::~DictDef() = default;
 void DictDef::retranslate()
 {
     record("retranslate");
+    for (QString &question : fake().securityQuestions)
+        question += QLatin1Char('\'');
 }
 
 QString DictDef::alertTitle(AlertTitle title) const
@@ -399,8 +448,7 @@ QString DictDef::alertTitle(AlertTitle title) const
 
 const QMap<int, QString> &DictDef::securityQuestions() const
 {
-    static const QMap<int, QString> questions;
-    return questions;
+    return fake().securityQuestions;
 }
 
 Customization::Customization() = default;
@@ -482,6 +530,7 @@ QString ZCOMMON::ZFileDialog::getOpenFileName(QWidget *parent, const QString &ca
                                               QFileDialog::Options options)
 {
     record("getOpenFileName", parent != nullptr, caption, directory, filter, selectedFilter != nullptr, int(options));
+    runOnce(fake().whileFileDialogIsOpen);
     return fake().chosenFile;
 }
 

@@ -41,6 +41,8 @@ struct FakeHost
 
     /** The one fake host of the program. */
     static FakeHost &get();
+    /** Their ids are 0, 10 and so on, so that no index passes for one. */
+    static QMap<int, QString> twelveQuestions();
 
     /** Back to the defaults below, with nothing recorded. */
     void reset();
@@ -62,7 +64,10 @@ struct FakeHost
     int lockSeconds = 0;
     bool updatesSucceed = true; // updateLockInfo stores and answers true
     bool addSuperUserSucceeds = true;
+    bool resetUserPwdSucceeds = true;
     bool sameEnvironment = true;
+    bool answersRight = false;
+    QString credentials; // what generateSuperUserCredentials answers
     bool credentialsValid = false;
     kelvra_data::SuperUserInfo superUser;
     kelvra_data::SuperUserInfo addedSuperUser;
@@ -74,6 +79,8 @@ struct FakeHost
     QMap<QString, QVariant> settings;
     kelvra_worker::CustomizeInfo customization;
     int language = 0;
+    /** Each retranslation marks the texts with a stroke. */
+    QMap<int, QString> securityQuestions = twelveQuestions();
     QVector<QPair<QString, QString>> alerts; // title, text
     std::function<void()> whileAlertIsOpen;
 
@@ -83,6 +90,7 @@ struct FakeHost
 
     // What would block
     QString chosenFile;
+    std::function<void()> whileFileDialogIsOpen;
     QStringList messageBoxes;
     std::function<void()> whileMessageBoxIsOpen;
 };

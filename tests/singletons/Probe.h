@@ -11,6 +11,7 @@
 #include "host/kelvra_worker/SystemAssistant.h"
 #include "host/kelvra_worker/SystemWorker.h"
 #include "host/kelvra_worker/UiSettings.h"
+#include "login/frame/LoginAccess.h"
 #include "login/frame/LoginInit.h"
 #include "login/frame/LoginSignals.h"
 
@@ -24,6 +25,6 @@ inline QVector<const void *> singletonAddresses()
             &kelvra_worker::Customization::_instance(),   &kelvra_worker::DictDef::_instance(),
             &kelvra_worker::LoginLogs::_instance(),       &kelvra_worker::SysLanguage::_instance(),
             &kelvra_worker::SystemAssistant::_instance(), &kelvra_worker::SystemWorker::_instance(),
-            &kelvra_worker::UiSettings::_instance(),      &kelvra_login::LoginInit::_instance(),
-            &kelvra_login::LoginSignals::_instance()};
+            &kelvra_worker::UiSettings::_instance(),      &kelvra_login::LoginAccess::_instance(),
+            &kelvra_login::LoginInit::_instance(),        &kelvra_login::LoginSignals::_instance()};
 }
