@@ -1,0 +1,60 @@
+#pragma once
+
+#include "host/kelvra_data/SuperUserInfo.h"
+#include "host/kelvra_data/UserRole.h"
+
+#include <QDirIterator>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <memory>
+
+/** What the programs share that keep a data folder. init() of each makes `dir` anew. */
+class DataFolderTest : public QObject
+{
+protected:
+    /** Within the data folder, which is there when somebody has made it. */
+    QString at(const QString &file = {}) const { return dir->filePath("data/" + file); }
+
+    /** Every file and folder in `folder` and below with its permissions and, behind them, its content. */
+    static QMap<QString, QByteArray> contents(const QString &folder)
+    {
+        QMap<QString, QByteArray> all;
+        const auto filter = QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot;
+        for (QDirIterator it(folder, filter, QDirIterator::Subdirectories); it.hasNext();) {
+            const QString path = it.next();
+            const QByteArray kind = it.fileInfo().isDir() ? " folder " : " file ";
+            all[QDir(folder).relativeFilePath(path)] =
+                QByteArray::number(int(it.fileInfo().permissions())) + kind + readFile(path);
+        }
+        return all;
+    }
+
+    static QByteArray readFile(const QString &path)
+    {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    static void writeFile(const QString &path, const QByteArray &data)
+    {
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(data) == data.size());
+    }
+
+    static kelvra_data::SuperUserInfo superUser(const QString &name, const QString &password)
+    {
+        kelvra_data::SuperUserInfo info;
+        info.userName = info.remark = name;
+        info.password = password;
+        info.role = kelvra_data::SuperUserRole;
+        info.question1 = 3;
+        info.question3 = 9;
+        info.answer1 = "Vassar College";
+        info.answer2 = "a moth in a relay";
+        info.answer3 = "Arlington, Virginia";
+        return info;
+    }
+
+    std::unique_ptr<QTemporaryDir> dir;
+};
