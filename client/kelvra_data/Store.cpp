@@ -106,7 +106,8 @@ QString Store::openFiles(const QString &folder, bool *created)
     QFile file(path);
     *created = !file.exists() && file.open(QIODevice::WriteOnly | QIODevice::NewOnly) && file.setPermissions(ownerFile);
     file.close();
-    if (!file.exists())
+    // SQLite would leave files of its own beside a database that it may only read.
+    if (!file.exists() || !QFileInfo(path).isWritable())
         return tr("The data folder %1 cannot be written to.").arg(QDir::toNativeSeparators(folder));
 
     int version = 0;
