@@ -254,6 +254,12 @@ private slots:
             QVERIFY2(!users().checkSuperUserCredentials(name, other), qPrintable(other));
         QVERIFY(!users().checkSuperUserCredentials(account, text));
         QVERIFY(users().generateSuperUserCredentials("nobody").isEmpty());
+        // A later superuser of the same name is somebody else.
+        store().setSuperUserReplaceable(true);
+        QVERIFY(users().addSuperUser(grace()));
+        store().setSuperUserReplaceable(false);
+        QVERIFY(users().isSuperUser(name) && !users().checkSuperUserCredentials(name, text));
+        QVERIFY(users().checkSuperUserCredentials(name, users().generateSuperUserCredentials(name)));
         QVERIFY(store().change("UPDATE users SET name = 'Mallory'"));
         QVERIFY(!users().checkSuperUserCredentials("Mallory", text));
 

@@ -87,10 +87,14 @@ QByteArray environmentFingerprint()
     return salt.isEmpty() ? QByteArray() : Vault::fingerprint(machine, salt);
 }
 
-// The salt ties the text to this database, the key behind the code to this folder.
+// The salt ties the text to this database, the key behind the code to this folder. The sealed answer, new with every
+// superuser and never changed, ties it to this one: a later one of the same name is somebody else.
 QByteArray credentialsCode(const QByteArray &head, const QString &name)
 {
-    return store().vault().authenticate(QByteArray("credentials") + '\0' + store().salt() + head + nameBytes(name));
+    const QByteArray salt = store().salt();
+    const QByteArray answer = sealedColumn("SELECT answer1 FROM users WHERE name = ? AND kind = ?", name);
+    return store().vault().authenticate(QByteArray("credentials") + '\0' + salt + Vault::fingerprint(answer, salt) +
+                                        head + nameBytes(name));
 }
 
 } // namespace
