@@ -317,6 +317,27 @@ private slots:
         QCOMPARE(box.currentData().toInt(), 22);
         QTRY_VERIFY(list->window()->isHidden());
     }
+
+    void comboBoxShortensWhatIsTooWide()
+    {
+        const auto prepare = [](QComboBox &box) {
+            box.addItems({"one", "a text that is much too wide for the box"});
+            box.resize(120, 30);
+        };
+        ComboBox box;
+        QComboBox clipping;
+        prepare(box);
+        prepare(clipping);
+        for (const int index : {0, 1}) {
+            box.setCurrentIndex(index);
+            clipping.setCurrentIndex(index);
+            QCOMPARE(box.grab().toImage() == clipping.grab().toImage(), index == 0);
+            QHelpEvent ask(QEvent::ToolTip, {5, 5}, box.mapToGlobal({5, 5}));
+            QCoreApplication::sendEvent(&box, &ask);
+            QCOMPARE(QToolTip::text(), index == 0 ? QString() : box.currentText());
+        }
+        QToolTip::hideText();
+    }
 };
 
 QTEST_MAIN(TestToolkit)

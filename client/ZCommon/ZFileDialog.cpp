@@ -1,5 +1,6 @@
 #include "host/ZCommon/ZFileDialog.h"
 
+#include <QDir>
 #include <QPointer>
 
 namespace ZCOMMON {
@@ -7,8 +8,10 @@ namespace ZCOMMON {
 QString ZFileDialog::getOpenFileName(QWidget *parent, const QString &caption, const QString &directory,
                                      const QString &filter, QString *selectedFilter, QFileDialog::Options options)
 {
+    // The last part of a folder that is not there would be taken for the name of a file.
+    const QString start = QFileInfo(directory).isDir() ? directory : QDir::homePath();
     // On the heap and guarded, unlike in QFileDialog's own static function: the parent may go while it is open.
-    const QPointer<QFileDialog> dialog = new QFileDialog(parent, caption, directory, filter);
+    const QPointer<QFileDialog> dialog = new QFileDialog(parent, caption, start, filter);
     dialog->setFileMode(QFileDialog::ExistingFile);
     dialog->setOptions(options);
     if (selectedFilter && !selectedFilter->isEmpty())

@@ -19,17 +19,17 @@ const char *const titleTexts[] = {
 
 // The index is the id that is stored with the answers: append, never reorder.
 const char *const questionTexts[] = {
-    QT_TRANSLATE_NOOP("DictDef", "What is the name of your favourite teacher?"),
+    QT_TRANSLATE_NOOP("DictDef", "Who was your favourite teacher?"),
     QT_TRANSLATE_NOOP("DictDef", "What is your mother's name?"),
     QT_TRANSLATE_NOOP("DictDef", "What is your father's name?"),
     QT_TRANSLATE_NOOP("DictDef", "In which town were you born?"),
-    QT_TRANSLATE_NOOP("DictDef", "What was the name of your first school?"),
-    QT_TRANSLATE_NOOP("DictDef", "What is the name of your best friend from childhood?"),
-    QT_TRANSLATE_NOOP("DictDef", "What was the name of your first pet?"),
+    QT_TRANSLATE_NOOP("DictDef", "Which was your first school?"),
+    QT_TRANSLATE_NOOP("DictDef", "Who was your best childhood friend?"),
+    QT_TRANSLATE_NOOP("DictDef", "What was your first pet's name?"),
     QT_TRANSLATE_NOOP("DictDef", "What is your favourite book?"),
     QT_TRANSLATE_NOOP("DictDef", "What is your favourite film?"),
     QT_TRANSLATE_NOOP("DictDef", "What is your favourite dish?"),
-    QT_TRANSLATE_NOOP("DictDef", "What was the make of your first car?"),
+    QT_TRANSLATE_NOOP("DictDef", "What make was your first car?"),
     QT_TRANSLATE_NOOP("DictDef", "What was your first job?"),
 };
 

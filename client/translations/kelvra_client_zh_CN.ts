@@ -83,7 +83,7 @@
         <translation>提示</translation>
     </message>
     <message>
-        <source>What is the name of your favourite teacher?</source>
+        <source>Who was your favourite teacher?</source>
         <translation>您最喜欢的老师叫什么名字？</translation>
     </message>
     <message>
@@ -99,15 +99,15 @@
         <translation>您出生在哪个城市？</translation>
     </message>
     <message>
-        <source>What was the name of your first school?</source>
+        <source>Which was your first school?</source>
         <translation>您就读的第一所学校叫什么？</translation>
     </message>
     <message>
-        <source>What is the name of your best friend from childhood?</source>
+        <source>Who was your best childhood friend?</source>
         <translation>您儿时最好的朋友叫什么名字？</translation>
     </message>
     <message>
-        <source>What was the name of your first pet?</source>
+        <source>What was your first pet&apos;s name?</source>
         <translation>您的第一只宠物叫什么名字？</translation>
     </message>
     <message>
@@ -123,7 +123,7 @@
         <translation>您最喜欢的菜是什么？</translation>
     </message>
     <message>
-        <source>What was the make of your first car?</source>
+        <source>What make was your first car?</source>
         <translation>您的第一辆车是什么品牌？</translation>
     </message>
     <message>

@@ -18,7 +18,7 @@ public:
      *
      * @param parent         window to stand before, may be null
      * @param caption        title of the dialog
-     * @param directory      folder to start in
+     * @param directory      folder to start in; the home folder where it is missing
      * @param filter         file filter in QFileDialog's notation, empty for all files
      * @param selectedFilter in: the filter to start with; out: the one used; may be null
      * @param options        QFileDialog options

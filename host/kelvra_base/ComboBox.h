@@ -8,7 +8,10 @@ class QListWidget;
 
 namespace kelvra_base {
 
-/** A combo box whose drop-down is a list widget that its owner may style. */
+/**
+ * A combo box whose drop-down is a list widget that its owner may style. A chosen text wider than the box is shown
+ * shortened with an ellipsis and offered whole as a tool tip.
+ */
 class KELVRA_BASE_EXPORT ComboBox : public QComboBox
 {
     Q_OBJECT
@@ -20,7 +23,13 @@ public:
     /** The list that drops down; owned by the box and never null. */
     QListWidget *getListWt() const;
 
+protected:
+    bool event(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
 private:
+    QString shownText() const;
+
     QListWidget *listWt;
 };
 

@@ -57,6 +57,8 @@ void UserNameWt::setState(int state)
 
 void UserNameWt::setFieldDisabled()
 {
+    // A style sheet that is replaced before the widget is polished may never be drawn.
+    ensurePolished();
     setEnabled(false);
     applyStyle(this, frameDisabledStyle);
     applyStyle(ui->userName, editDisabledStyle);

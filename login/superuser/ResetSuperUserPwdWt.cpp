@@ -24,8 +24,6 @@ ResetSuperUserPwdWt::ResetSuperUserPwdWt(const QString &name, QWidget *parent)
 {
     ui->setupUi(this);
     ui->userWt->setText(userName);
-    // A style sheet that is replaced before the widget is polished may never be drawn.
-    ui->userWt->ensurePolished();
     ui->userWt->setFieldDisabled();
     ui->confirmPwdWt->hideIcon();
     setPlaceholders();
