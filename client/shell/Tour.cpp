@@ -73,6 +73,8 @@ QStringList Tour::reportsOf(int index, const TourStage &stage, QString *end) con
     environment.insert(TourDriver::stageVariable, QString::number(index));
     environment.insert(TourDriver::folderVariable, folder);
     environment.insert(TourDriver::seenVariable, lastSeen);
+    // File dialogs would keep in the user's own settings where they have been.
+    environment.insert(QStringLiteral("XDG_CONFIG_HOME"), data.filePath(QStringLiteral("config")));
     // The stages see what this process sees, and start in English.
     environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QGuiApplication::platformName());
     environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));

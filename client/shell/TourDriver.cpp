@@ -63,6 +63,8 @@ TourDriver::TourDriver(const QString &pictureFolder, int stage, const QString &s
 {
     // A caret that blinks would be in one picture and not in the next.
     QApplication::setCursorFlashTime(0);
+    // The platform's own file dialogs are out of the tour's reach.
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     handlerBefore = qInstallMessageHandler(dropPlatformLimits);
     sinceAct.start();
     QTimer::singleShot(0, this, &TourDriver::tick);

@@ -11,6 +11,8 @@
 #include <QTableView>
 #include <QWindow>
 
+#include <algorithm>
+
 QT_BEGIN_NAMESPACE
 // The ways in for test tools: events go through the window system's queue, so that focus, hover and grabs hold.
 Q_GUI_EXPORT void qt_handleMouseEvent(QWindow *window, const QPointF &local, const QPointF &global,
@@ -104,6 +106,25 @@ QPoint clickPoint(const QWidget &widget)
     return qobject_cast<const QCheckBox *>(&widget) ? QPoint(middle.y(), middle.y()) : middle;
 }
 
+void takePointerOff(QWidget *widget)
+{
+    widget->setAttribute(Qt::WA_UnderMouse, false);
+    QEvent leave(QEvent::Leave);
+    QHoverEvent hoverLeave(QEvent::HoverLeave, QPoint(-1, -1), QPoint(-1, -1));
+    QCoreApplication::sendEvent(widget, &leave);
+    QCoreApplication::sendEvent(widget, &hoverLeave);
+}
+
+/** Of a window in a picture: what has the higher number lies above. */
+int layerOf(const QWidget *window)
+{
+    if (window->windowType() == Qt::ToolTip)
+        return 3;
+    if (window == QApplication::activePopupWidget())
+        return 2;
+    return window == QApplication::activeModalWidget() ? 1 : 0;
+}
+
 } // namespace
 
 QWidget *TourInput::find(const QString &path)
@@ -147,18 +168,14 @@ void TourInput::mouse(QWidget *window, const QPoint &at, QEvent::Type type, bool
 void TourInput::settle()
 {
     const QWidget *modal = QApplication::activeModalWidget();
-    if (!pointerWindow || !modal || pointerWindow == modal->windowHandle())
-        return;
+    const bool blocked = pointerWindow && modal && pointerWindow != modal->windowHandle();
     for (QWidget *widget : QApplication::allWidgets()) {
-        if (!widget->testAttribute(Qt::WA_UnderMouse) || widget->window()->windowHandle() != pointerWindow)
-            continue;
-        widget->setAttribute(Qt::WA_UnderMouse, false);
-        QEvent leave(QEvent::Leave);
-        QHoverEvent hoverLeave(QEvent::HoverLeave, QPoint(-1, -1), QPoint(-1, -1));
-        QCoreApplication::sendEvent(widget, &leave);
-        QCoreApplication::sendEvent(widget, &hoverLeave);
+        const bool reachable = widget->isVisible() && !(blocked && widget->window()->windowHandle() == pointerWindow);
+        if (widget->testAttribute(Qt::WA_UnderMouse) && !reachable)
+            takePointerOff(widget);
     }
-    pointerWindow = nullptr;
+    if (blocked)
+        pointerWindow = nullptr;
 }
 
 void TourInput::moveTo(const QString &path)
@@ -223,14 +240,20 @@ QPixmap TourInput::picture()
     QList<QWidget *> windows = windowsFromTheTop();
     if (windows.isEmpty())
         return {};
-    const auto area = [](const QWidget *window) { return window->width() * window->height(); };
-    std::stable_sort(windows.begin(), windows.end(),
-                     [area](const QWidget *one, const QWidget *other) { return area(one) > area(other); });
-    QPixmap result = windows.first()->grab();
-    const QPoint origin = windows.first()->mapToGlobal(QPoint(0, 0));
+    const auto isSmaller = [](const QWidget *one, const QWidget *other) {
+        return one->width() * one->height() < other->width() * other->height();
+    };
+    QWidget *largest = *std::max_element(windows.cbegin(), windows.cend(), isSmaller);
+    std::stable_sort(windows.begin(), windows.end(), [isSmaller](const QWidget *one, const QWidget *other) {
+        return layerOf(one) != layerOf(other) ? layerOf(one) < layerOf(other) : isSmaller(other, one);
+    });
+    QPixmap result = largest->grab();
+    const QPoint origin = largest->mapToGlobal(QPoint(0, 0));
     QPainter painter(&result);
-    for (QWidget *window : qAsConst(windows).mid(1))
-        painter.drawPixmap(window->mapToGlobal(QPoint(0, 0)) - origin, window->grab());
+    for (QWidget *window : qAsConst(windows)) {
+        if (window != largest)
+            painter.drawPixmap(window->mapToGlobal(QPoint(0, 0)) - origin, window->grab());
+    }
     return result;
 }
 

@@ -20,7 +20,7 @@ namespace kelvra_client {
 class TourInput
 {
 public:
-    /** Takes the pointer off a window that a modal one has come to block: the window system does not know of it. */
+    /** Takes the pointer off what has been hidden or blocked beneath it: the window system does not know of that. */
     void settle();
     /** Moves the pointer onto the middle of a widget. */
     void moveTo(const QString &path);

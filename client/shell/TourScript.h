@@ -31,7 +31,7 @@ struct TourStage
     QVector<TourStep> steps;
 };
 
-/** What the tour does, in the order of the pictures. */
+/** What the tour does, in the order of the pictures: the stages of each subject, which a class of its own holds. */
 class TourScript
 {
 public:
