@@ -1,52 +1,15 @@
-#include "fakehost/FakeHost.h"
+#include "TestTools.h"
 #include "host/kelvra_contact/SystemMsg.h"
-#include "login/frame/LoginDlg.h"
 #include "login/frame/LoginInit.h"
-#include "login/frame/LoginSignals.h"
 #include "login/frame/LoginWorker.h"
 #include "login/frame/SplashScreen.h"
-#include "login/local/ScreenTable.h"
-
-#include <QLabel>
-#include <QLineEdit>
-#include <QPainter>
-#include <QPushButton>
-#include <QStackedWidget>
-#include <QtTest>
 
 using namespace kelvra_login;
 using kelvra_contact::SystemMsg;
 
 namespace {
 
-FakeHost &host = FakeHost::get();
-const QColor trackColour("#202a3f");
-
-/** A page whose Enter clicks its second button; it leaves the key to whoever is above. */
-class EnterPage : public QWidget
-{
-public:
-    explicit EnterPage(QWidget *parent)
-        : QWidget(parent)
-    {
-        for (const char *name : {"otherBt", "mainBt"}) {
-            main = new QPushButton(this);
-            connect(main, &QPushButton::clicked, this, [name] { host.record(name, {}); });
-        }
-        (new QLineEdit(this))->setObjectName("edit");
-    }
-
-protected:
-    void keyPressEvent(QKeyEvent *event) override
-    {
-        if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
-            emit main->clicked();
-        QWidget::keyPressEvent(event);
-    }
-
-private:
-    QPushButton *main = nullptr;
-};
+const QRect track(40, 423, 780, 7);
 
 QImage plain(const QSize &size, const QColor &colour)
 {
@@ -76,7 +39,7 @@ bool alike(const QColor &one, const QColor &other)
 
 } // namespace
 
-class TestLoginDlg : public QObject
+class TestLoginDlg : public WindowTest
 {
     Q_OBJECT
 
@@ -84,11 +47,9 @@ private slots:
     void initTestCase()
     {
         LoginInit::_instance(); // enters the screens
-        ScreenTable::enter(CreateSuperUser,
-                           {[](const QStringList &, QWidget *parent) { return new EnterPage(parent); }, {}});
         qApp->installEventFilter(this);
         const auto recordState = [this](const char *signal) {
-            return [this, signal] { host.record(signal, {dialog && dialog->isVisible() ? "shown" : "hidden"}); };
+            return [this, signal] { host.record(signal, {window && window->isVisible() ? "shown" : "hidden"}); };
         };
         connect(msg, &SystemMsg::signalLoginSuccess, this, recordState("success"));
         connect(msg, &SystemMsg::signalSystemInitFinished, this, recordState("finished"));
@@ -102,97 +63,54 @@ private slots:
     {
         LoginWorker::_instance().setLocked(false);
         host.reset();
-        dialog = new LoginDlg(nullptr);
+        auto *dialog = new LoginDlg(nullptr);
         connect(dialog, &QDialog::rejected, this, [] { host.record("rejected", {}); });
-        dialog->show();
-        QVERIFY(QTest::qWaitForWindowActive(dialog));
+        open(dialog);
     }
 
-    void cleanup()
-    {
-        QList<QPointer<QWidget>> windows; // some go with the dialog that owns them
-        for (QWidget *window : QApplication::topLevelWidgets())
-            windows << window;
-        for (const QPointer<QWidget> &window : windows)
-            delete qobject_cast<LoginDlg *>(window);
-    }
+    void cleanup() { qDeleteAll(dialogs()); }
 
     void looks()
     {
-        QCOMPARE(dialog->objectName(), QString("kelvra_login__LoginDlg"));
-        QVERIFY(dialog->minimumSize() == QSize(860, 500) && dialog->maximumSize() == QSize(860, 500));
-        QCOMPARE(int(dialog->windowFlags()) & 0xe000, 0xe000);
-        auto *closeBt = dialog->findChild<QPushButton *>("closeBt");
+        QCOMPARE(window->objectName(), QString("kelvra_login__LoginDlg"));
+        QVERIFY(window->minimumSize() == QSize(860, 500) && window->maximumSize() == QSize(860, 500));
+        QCOMPARE(int(window->windowFlags()) & 0xe000, 0xe000);
+        auto *closeBt = child<QPushButton>("closeBt");
         QCOMPARE(closeBt->geometry(), QRect(831, 15, 14, 14));
-        QVERIFY(!closeBt->isDefault() && !closeBt->autoDefault() && closeBt->focusPolicy() == Qt::NoFocus);
-        QVERIFY(closeBt->property("common_close_bt_style1").toBool());
+        QVERIFY(closeBt->property("common_close_bt_style1").toBool() && closeBt->focusPolicy() == Qt::NoFocus);
         auto *logo = child<QLabel>("logo");
         QCOMPARE(logo->pos(), QPoint(34, 20));
         logo->resize(10, 10); // the client's picture is not here
-        QVERIFY(dialog->childAt(838, 22) == closeBt && dialog->childAt(38, 24) == logo);
-        QCOMPARE(stack()->geometry(), dialog->rect());
-        QCOMPARE(stack()->currentWidget()->objectName(), QString("loginWt"));
+        QVERIFY(window->childAt(838, 22) == closeBt && window->childAt(38, 24) == logo);
+        QCOMPARE(stack()->geometry(), window->rect());
+        const QPoint before = window->pos();
+        QTest::mousePress(window->windowHandle(), Qt::LeftButton, {}, {200, 450});
+        QTest::mouseMove(window->windowHandle(), {230, 470});
+        QCOMPARE(window->pos(), before + QPoint(30, 20));
     }
 
-    void percentOutlivesTheLanguage()
+    void everyWayQuitsOnce()
     {
-        QCOMPARE(child<QLabel>("label")->text() + child<QLabel>("progress")->text(),
-                 QString("System Data Loading...0%"));
-        dialog->findChild<SplashScreen *>()->slotSmoothProgress(37);
-        QEvent change(QEvent::LanguageChange);
-        QApplication::sendEvent(dialog, &change);
-        QCOMPARE(child<QLabel>("progress")->text(), QString("37%"));
-    }
-
-    void quitting_data()
-    {
-        QTest::addColumn<QString>("by");
-        for (const char *by : {"close button", "close", "Escape", "Escape in a field", "Escape on the splash screen"})
-            QTest::newRow(by) << by;
-    }
-
-    void quitting()
-    {
-        QFETCH(QString, by);
-        show(CreateSuperUser);
-        if (by.startsWith("Escape on"))
-            stack()->setCurrentIndex(1);
-        if (by == "close button")
-            QTest::mouseClick(dialog->windowHandle(), Qt::LeftButton, {}, {838, 22});
-        else if (by == "close")
-            dialog->close();
-        else
-            QTest::keyClick(by == "Escape in a field" ? child<QWidget>("edit") : dialog, Qt::Key_Escape);
-        QVERIFY(!dialog->isVisible());
-        dialog->close();
-        emit msg->signalDgwAbnormal({});
-        emit msg->signalClientRepeatedStart();
-        emit LoginSignals::_instance().signalLoginSuccess();
-        QCOMPARE(host.callsOf({"prepareQuit", "quit", "rejected", "success"}), quitOnce);
-        QVERIFY(!dialog->isVisible());
-    }
-
-    void enterClicksThePageOnly()
-    {
-        dialog->hide();
-        show(CreateSuperUser);
-        dialog->show(); // now a dialog marks a default button
-        QVERIFY(QTest::qWaitForWindowActive(dialog));
-        child<QLineEdit>("edit")->setFocus();
-        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
-            host.calls.clear();
-            QTest::keyClick(dialog->windowHandle(), key);
-            QCOMPARE(host.calls, QStringList("mainBt()"));
+        const QStringList ways{"close button", "close", "Escape", "Escape in a field", "Escape on the splash screen"};
+        for (const QString &by : ways) {
+            showScreen(NormalLogin);
+            if (by.startsWith("Escape on"))
+                stack()->setCurrentIndex(1);
+            if (by == "close button")
+                QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {}, {838, 22});
+            else if (by == "close")
+                window->close();
+            else
+                QTest::keyClick(by == "Escape in a field" ? edit("localUserWt") : window.data(), Qt::Key_Escape);
+            QVERIFY2(!window->isVisible(), qPrintable(by));
+            window->close();
+            emit msg->signalDgwAbnormal({});
+            emit msg->signalClientRepeatedStart();
+            emit LoginSignals::_instance().signalLoginSuccess();
+            QCOMPARE(host.callsOf({"prepareQuit", "quit", "rejected", "success"}), quitOnce);
+            QVERIFY(!window->isVisible());
+            init();
         }
-        show(NormalLogin);
-        child<QWidget>("localUserWt")->findChild<QLineEdit *>()->setText("ann");
-        auto *pwd = child<QWidget>("localPwdWt")->findChild<QLineEdit *>();
-        pwd->setText("wrong");
-        pwd->setFocus();
-        host.calls.clear();
-        QTest::keyClick(dialog->windowHandle(), Qt::Key_Return);
-        QCOMPARE(host.callsOf({"verifyUserPassword", "mainBt", "otherBt", "prepareQuit"}),
-                 QStringList("verifyUserPassword(ann,wrong)"));
     }
 
     void abnormalNotice()
@@ -200,60 +118,58 @@ private slots:
         host.whileMessageBoxIsOpen = [this] { emit msg->signalDgwAbnormal({}); };
         emit msg->signalDgwAbnormal("broken");
         QCOMPARE(host.calls, QStringList("warning(kelvra_login__LoginDlg,broken,1,false)") + quitOnce);
-        delete dialog;
 
         init();
-        emit msg->signalDgwAbnormal({});
-        QCOMPARE(host.calls, quitOnce);
-        delete dialog;
-
-        init();
-        host.whileMessageBoxIsOpen = [this] { delete dialog; };
+        host.whileMessageBoxIsOpen = [this] { delete window; };
         emit msg->signalDgwAbnormal("broken");
-        QVERIFY(!dialog);
+        QVERIFY(!window);
     }
 
     void repeatedStartBringsTheDialogBack()
     {
-        dialog->showMinimized();
+        window->showMinimized();
         emit msg->signalClientRepeatedStart();
-        QVERIFY(!dialog->isMinimized() && dialog->isVisible());
+        QVERIFY(!window->isMinimized() && window->isVisible());
         QWidget other;
         other.show();
         other.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&other));
         emit msg->signalClientRepeatedStart();
-        QTRY_COMPARE(QApplication::activeWindow(), dialog.data());
+        QTRY_COMPARE(QApplication::activeWindow(), window.data());
         QVERIFY(!QApplication::activePopupWidget());
     }
 
     void loading()
     {
         emit LoginSignals::_instance().signalLoginSuccess();
-        QCOMPARE(host.calls, QStringList({"success(shown)", "progress(50)"}));
+        QCOMPARE(host.calls, QStringList({"signalLoginSuccess()", "success(shown)", "progress(50)"}));
         QCOMPARE(stack()->currentWidget()->objectName(), QString("splashScreen"));
         QVERIFY(!child<QLabel>("logo")->isVisible());
         QTRY_COMPARE(child<QLabel>("progress")->text(), QString("50%"));
+        QEvent change(QEvent::LanguageChange);
+        QApplication::sendEvent(window, &change);
+        QCOMPARE(child<QLabel>("label")->text() + child<QLabel>("progress")->text(),
+                 QString("System Data Loading...50%"));
         emit msg->signalSystemInitProgress(-20);
         QTRY_COMPARE(child<QLabel>("progress")->text(), QString("0%"));
         emit msg->signalSystemInitProgress(300);
-        QTRY_VERIFY(!dialog);
-        QCOMPARE(host.calls.mid(2), QStringList({"progress(-20)", "progress(300)", "finished(hidden)"}));
+        QTRY_VERIFY(!window);
+        QCOMPARE(host.calls.mid(3), QStringList({"progress(-20)", "progress(300)", "finished(hidden)"}));
 
         init();
         emit msg->signalSystemInitProgress(100); // the first report may be the last
-        QTRY_VERIFY(!dialog);
+        QTRY_VERIFY(!window);
         QCOMPARE(host.calls, QStringList({"progress(100)", "finished(hidden)"}));
     }
 
     void splashBar()
     {
-        useLoadingImage(plain({4, 4}, Qt::black), true);
+        useLoadingImage(plain({4, 4}, Qt::black));
         SplashScreen splash;
         const QImage empty = splash.grab().toImage();
-        QCOMPARE(difference(empty, plain({860, 500}, Qt::black)), QRect(40, 423, 780, 7));
-        QCOMPARE(empty.pixelColor(700, 426), trackColour);
-        QVERIFY(empty.pixelColor(40, 423) != trackColour); // rounded
+        QCOMPARE(difference(empty, plain({860, 500}, Qt::black)), track);
+        const QColor colour("#202a3f");
+        QVERIFY(empty.pixelColor(700, 426) == colour && empty.pixelColor(40, 423) != colour); // rounded
 
         const QPixmap light(":/login_images/images/img_light.png");
         QImage glow = plain(light.size(), Qt::black);
@@ -283,38 +199,23 @@ private slots:
     {
         QImage halves = plain({2, 1}, Qt::red);
         halves.setPixelColor(1, 0, Qt::blue);
-        useLoadingImage(halves, true);
+        useLoadingImage(halves);
         const QImage custom = SplashScreen().grab().toImage();
         QVERIFY(custom.pixelColor(2, 2) == Qt::red && custom.pixelColor(857, 497) == Qt::blue);
 
         const QImage builtIn(":/login_images/images/img_bg_loading.png");
-        const QRect track(40, 423, 780, 7);
-        useLoadingImage(halves, false);
+        host.customization.customLoadingImageEnabled = false;
         QCOMPARE(difference(SplashScreen().grab().toImage(), builtIn), track);
         host.customization.customLoadingImageEnabled = true;
-        for (const QString &path : {folder.filePath("missing.png"), folder.path(), QString()}) {
-            host.customization.loadingImagePath = path;
-            QCOMPARE(difference(SplashScreen().grab().toImage(), builtIn), track);
-        }
-    }
-
-    void dragging()
-    {
-        const QPoint before = dialog->pos();
-        QTest::mousePress(dialog->windowHandle(), Qt::LeftButton, {}, {200, 450});
-        QTest::mouseMove(dialog->windowHandle(), {230, 470});
-        QTest::mouseRelease(dialog->windowHandle(), Qt::LeftButton, {}, {200, 450});
-        QCOMPARE(dialog->pos(), before + QPoint(30, 20));
+        host.customization.loadingImagePath = folder.filePath("missing.png");
+        QCOMPARE(difference(SplashScreen().grab().toImage(), builtIn), track);
     }
 
     void moduleEntry()
     {
         const QString sheet = qApp->styleSheet();
         QCOMPARE(sheet.count("login_userItem_wt"), 1);
-        kelvra_base::ModuleInitialization &module = LoginInit::_instance();
-        module.moduleInit();
-        module.init();
-        module.recoveryToInitialState();
+        static_cast<kelvra_base::ModuleInitialization &>(LoginInit::_instance()).init();
         QCOMPARE(qApp->styleSheet(), sheet);
 
         for (const bool switching : {false, true}) {
@@ -327,7 +228,6 @@ private slots:
             QVERIFY(painted);
             QCOMPARE(LoginWorker::_instance().isAutoLoginAllowed(), !switching);
         }
-        QCOMPARE(host.callsOf({"verifyUserPassword", "tryAutoLogin"}), QStringList());
     }
 
 protected:
@@ -338,17 +238,11 @@ protected:
     }
 
 private:
-    template <typename Widget>
-    Widget *child(const QString &name) const
-    {
-        return dialog->findChild<Widget *>(name);
-    }
     QStackedWidget *stack() const { return child<QStackedWidget>("stackedWidget"); } // the outermost is found first
-    static void show(LoginEvent event) { emit LoginSignals::_instance().signalLoginEvent(event, {}); }
 
-    void useLoadingImage(const QImage &image, bool enabled) const
+    void useLoadingImage(const QImage &image) const
     {
-        host.customization.customLoadingImageEnabled = enabled;
+        host.customization.customLoadingImageEnabled = true;
         host.customization.loadingImagePath = folder.filePath("loading.png");
         QVERIFY(image.save(host.customization.loadingImagePath));
     }
@@ -356,7 +250,6 @@ private:
     SystemMsg *const msg = &SystemMsg::_instance();
     const QStringList quitOnce{"prepareQuit(shown)", "quit(shown)", "rejected()"};
     const QTemporaryDir folder;
-    QPointer<LoginDlg> dialog;
     bool painted = false;
 };
 

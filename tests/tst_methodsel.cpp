@@ -1,91 +1,57 @@
-#include "fakehost/Brackets.h"
-#include "host/kelvra_worker/DictDef.h"
-#include "login/frame/LoginSignals.h"
+#include "TestTools.h"
 #include "login/superuser/LoginMethodBt.h"
 #include "login/superuser/LoginMethodSelWt.h"
 
-#include <QLabel>
-#include <QLayout>
-#include <QtTest>
-
 using namespace kelvra_login;
-using kelvra_worker::DictDef;
 
 namespace {
 
-FakeHost &host = FakeHost::get();
-
-QString texts(const LoginMethodBt *button)
+QStringList textsOf(const LoginMethodBt *button)
 {
-    return button->findChild<QLabel *>("title")->text() + '|' + button->findChild<QLabel *>("detail")->text();
+    return {button->findChild<QLabel *>("title")->text(), button->findChild<QLabel *>("detail")->text()};
 }
 
 } // namespace
 
-class TestMethodSel : public QObject
+class TestMethodSel : public WindowTest
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        // Among the host's calls, so that the order of both shows.
-        const auto &hub = LoginSignals::_instance();
-        connect(&hub, &LoginSignals::signalLoginEvent, this, [](LoginEvent event, const QStringList &params) {
-            host.record("signalLoginEvent", QStringList(QString::number(event)) + params);
-        });
-        connect(&hub, &LoginSignals::signalSaasLoginEvent, this,
-                [](SaasLoginEvent event) { host.record("signalSaasLoginEvent", {QString::number(event)}); });
-        connect(&hub, &LoginSignals::signalDefaultLocalSuperUserMethodSelected, this,
-                [](const QString &userName, const QString &pwd) {
-                    host.record("fillIn", {userName, pwd});
-                });
-    }
-
     void init()
     {
         host.reset();
         host.customization.cloudLoginEnabled = true;
-        open();
+        newPage();
     }
 
-    void cleanup() { page.reset(); }
+    void cleanup() { delete window; }
 
-    void textsOfTheMethods()
+    void texts()
     {
-        const QString cloud = "Login Nimbra App User|Login via phone number or scan QR code";
-        QCOMPARE(texts(defaultUserBt()), QString("Use Default Superuser|User:admin Password:468024, low security"));
-        QCOMPARE(texts(newUserBt()), QString("Create New Superuser|Customize user and password, high security"));
-        QCOMPARE(texts(saasUserBt()), cloud);
+        const QStringList english = {"Use Default Superuser", "User:admin Password:468024, low security",
+                                     "Create New Superuser",  "Customize user and password, high security",
+                                     "Login Nimbra App User", "Login via phone number or scan QR code"};
+        const auto shown = [this] { return textsOf(defaultUserBt()) + textsOf(newUserBt()) + textsOf(saasUserBt()); };
+        QCOMPARE(shown(), english);
+        {
+            const Brackets brackets;
+            QCOMPARE(shown(), QStringList(english).replaceInStrings(QRegularExpression("^(.*)$"), "[\\1]"));
+            QCOMPARE(child<QLabel>("label")->text(), QString("[Welcome to login]"));
+        }
         newUserBt()->setMethod(7);
-        QCOMPARE(texts(newUserBt()), cloud);
+        QCOMPARE(textsOf(newUserBt()), english.mid(4));
         const QSignalSpy clicked(newUserBt(), &LoginMethodBt::signalClicked);
         QTest::mouseClick(newUserBt(), Qt::LeftButton);
         QCOMPARE(clicked.value(0), QVariantList{7});
     }
 
-    void textsFollowTheLanguage()
-    {
-        const Brackets brackets;
-        QCOMPARE(texts(defaultUserBt()), QString("[Use Default Superuser]|[User:admin Password:468024, low security]"));
-        QCOMPARE(texts(newUserBt()), QString("[Create New Superuser]|[Customize user and password, high security]"));
-        QCOMPARE(texts(saasUserBt()), QString("[Login Nimbra App User]|[Login via phone number or scan QR code]"));
-        QCOMPARE(page->findChild<QLabel *>("label")->text(), QString("[Welcome to login]"));
-    }
-
     void buttonsWithoutCloudLoginSitLower()
     {
-        const auto margins = [this] {
-            return page->findChild<QLayout *>("verticalLayout_2")
-                ->findChild<QLayout *>("verticalLayout")
-                ->contentsMargins();
-        };
         const int top = defaultUserBt()->y();
-        QCOMPARE(margins(), QMargins(0, 0, 0, 0));
         QVERIFY(saasUserBt()->isVisible());
         host.customization.cloudLoginEnabled = false;
-        open();
-        QCOMPARE(margins(), QMargins(0, 54, 0, 0));
+        newPage();
         QCOMPARE(defaultUserBt()->y(), top + 54);
         QCOMPARE(newUserBt()->y(), top + 54 + 80);
         QVERIFY(defaultUserBt()->isVisible() && newUserBt()->isVisible() && !saasUserBt()->isVisible());
@@ -94,16 +60,16 @@ private slots:
     void buttonsShowPictures()
     {
         QList<QImage> pictures;
-        for (LoginMethodBt *button : {defaultUserBt(), newUserBt(), saasUserBt()}) {
+        for (LoginMethodBt *button : buttons()) {
             QCOMPARE(button->size(), QSize(275, 54));
-            for (QWidget *pointedAt : {static_cast<QWidget *>(page.get()), static_cast<QWidget *>(button)}) {
+            for (QWidget *pointedAt : {window.data(), static_cast<QWidget *>(button)}) {
                 QTest::mouseMove(pointedAt, pointedAt == button ? QPoint() : QPoint(1, 1));
                 const QImage picture = button->grab(QRect(0, 0, 50, 54)).toImage(); // left of the texts
                 QVERIFY(!pictures.contains(picture));
                 pictures << picture;
             }
             QTest::mouseClick(button, Qt::LeftButton);
-            QTest::keyClick(page.get(), Qt::Key_Tab);
+            QTest::keyClick(window, Qt::Key_Tab);
             QVERIFY(!button->hasFocus());
         }
     }
@@ -129,36 +95,24 @@ private slots:
                                 "updateLoginEnvironment()";
         host.addSuperUserSucceeds = false;
         QCOMPARE(choose(defaultUserBt()), refused);
-        QCOMPARE(host.alerts.first().first, DictDef::_instance().alertTitle(DictDef::WarningTitle));
+        QCOMPARE(host.alerts.first().first, QString("title 1"));
+        host.whileAlertIsOpen = [this] { delete window; };
         QCOMPARE(choose(defaultUserBt()), refused);
-        host.addSuperUserSucceeds = true;
-        QVERIFY(choose(defaultUserBt()).contains("fillIn(admin,468024)"));
-
-        host.addSuperUserSucceeds = false;
-        host.whileAlertIsOpen = [this] { page.reset(); };
-        QCOMPARE(choose(defaultUserBt()), refused);
-        QVERIFY(!page);
+        QVERIFY(!window);
     }
 
 private:
-    void open()
-    {
-        page = std::make_unique<LoginMethodSelWt>(nullptr);
-        page->show();
-        QVERIFY(QTest::qWaitForWindowActive(page.get()));
-    }
-
-    LoginMethodBt *defaultUserBt() const { return page->findChild<LoginMethodBt *>("defaultUserBt"); }
-    LoginMethodBt *newUserBt() const { return page->findChild<LoginMethodBt *>("newUserBt"); }
-    LoginMethodBt *saasUserBt() const { return page->findChild<LoginMethodBt *>("saasUserBt"); }
+    void newPage() { open(new LoginMethodSelWt(nullptr)); }
+    LoginMethodBt *defaultUserBt() const { return child<LoginMethodBt>("defaultUserBt"); }
+    LoginMethodBt *newUserBt() const { return child<LoginMethodBt>("newUserBt"); }
+    LoginMethodBt *saasUserBt() const { return child<LoginMethodBt>("saasUserBt"); }
+    QList<LoginMethodBt *> buttons() const { return {defaultUserBt(), newUserBt(), saasUserBt()}; }
 
     static QString choose(LoginMethodBt *button)
     {
         QTest::mouseClick(button, Qt::LeftButton);
-        return std::exchange(host.calls, {}).join(' ');
+        return deeds();
     }
-
-    std::unique_ptr<LoginMethodSelWt> page;
 };
 
 QTEST_MAIN(TestMethodSel)

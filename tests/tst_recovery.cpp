@@ -1,47 +1,21 @@
-#include "fakehost/Brackets.h"
+#include "TestTools.h"
 #include "login/frame/LoginAccess.h"
-#include "login/frame/LoginSignals.h"
 #include "login/superuser/GetbackPwdDlg.h"
 #include "login/superuser/VerifySecretAnswerWt.h"
-
-#include <QClipboard>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPointer>
-#include <QPushButton>
-#include <QtTest>
 
 using namespace kelvra_login;
 
 namespace {
 
-FakeHost &host = FakeHost::get();
 const QString password = "<b>& W</b>";
-/** What was done and announced since the last call, in order, without what was only looked up. */
-QString deeds()
-{
-    return std::exchange(host.calls, {}).filter(QRegularExpression("^(?!get[A-Z]|is)")).join(' ');
-}
-
-/** A file that holds the text "Aé中AAA...": 124 bytes follow, two for each character, big ends first. */
-const QByteArray credentialsFileBytes =
-    QByteArray::fromHex("0000007c004100e94e2d") + QByteArray::fromHex("0041").repeated(59);
-const QString credentials = QStringLiteral("Aé中") + QString(59, 'A');
 
 } // namespace
 
-class TestRecovery : public QObject
+class TestRecovery : public WindowTest
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        connect(&LoginSignals::_instance(), &LoginSignals::signalLoginEvent, this, [](int event, QStringList params) {
-            host.record("signalLoginEvent", params << QString::number(event));
-        });
-    }
-
     void init()
     {
         host.reset();
@@ -50,14 +24,14 @@ private slots:
         QGuiApplication::clipboard()->clear();
     }
 
-    void cleanup() { delete subject; }
+    void cleanup() { delete window; }
 
     // The page asks for the user it was made for, the dialog for the host's superuser.
     void answers_data()
     {
         QTest::addColumn<QString>("user");
         QTest::addColumn<QString>("granted"); // what right answers or a good file bring
-        QTest::newRow("page") << QString("ann") << " signalLoginEvent(ann,4)";
+        QTest::newRow("page") << QString("ann") << " signalLoginEvent(4,ann)";
         QTest::newRow("dialog") << QString("root") << " getbackPwdLog(root)";
     }
 
@@ -66,9 +40,9 @@ private slots:
         QFETCH(QString, user);
         QFETCH(QString, granted);
         QStringList tips;
-        open();
+        newSubject();
         QCOMPARE(texts("question"), QString("question 70|question 0|question 110"));
-        QVERIFY(!line("question_1")->isEnabled() && line("answer_1")->hasFocus());
+        QVERIFY(!edit("question_1")->isEnabled() && edit("answer_1")->hasFocus());
         for (const char *blank : {"click|  ||", "return|a| |c", "enter|a|b|"})
             tips << tipAfter(blank);
         QCOMPARE(tips.join(' ') + deeds(), QString("answer_1 answer_2 answer_3"));
@@ -87,12 +61,11 @@ private slots:
 
         host.answersRight = false;
         for (const char *by : {"click", "return"}) {
-            delete subject;
-            open();
+            newSubject();
             fill("a|b|c");
-            host.whileAlertIsOpen = [this] { delete subject; };
+            host.whileAlertIsOpen = [this] { delete window; };
             submit(by);
-            QVERIFY2(!subject, by);
+            QVERIFY2(!window, by);
         }
     }
 
@@ -102,7 +75,7 @@ private slots:
     {
         QFETCH(QString, user);
         QFETCH(QString, granted);
-        open();
+        newSubject();
         auto *link = child<QLabel>("importCredentialsBt");
         QVERIFY(link->text().contains("text-decoration: underline;\">import Credentials<"));
         QTest::mouseClick(link, Qt::RightButton);
@@ -111,15 +84,15 @@ private slots:
         QTest::mousePress(link, Qt::LeftButton); // and cancelled
         QVERIFY(host.callsOf({"getOpenFileName"}).size() == 1 && deeds().isEmpty());
         QTemporaryFile file;
-        QVERIFY(file.open() && file.write(credentialsFileBytes) == 128 && file.flush());
+        QVERIFY(file.open() && file.write(QByteArray(128, 0)) == 128 && file.flush()); // an empty text
         host.chosenFile = file.fileName();
-        const QString asked = "checkSuperUserCredentials(" + user + ',' + credentials + ')';
+        const QString asked = "checkSuperUserCredentials(" + user + ",)";
         QTest::mousePress(link, Qt::LeftButton);
         QCOMPARE(deeds(), asked + " messageAlert(Login credentials file is invalid)");
         host.credentialsValid = true;
         QTest::mousePress(link, Qt::LeftButton);
         QCOMPARE(deeds(), asked + granted);
-        host.whileFileDialogIsOpen = [this] { delete subject; };
+        host.whileFileDialogIsOpen = [this] { delete window; };
         QTest::mousePress(link, Qt::LeftButton);
         QCOMPARE(deeds(), asked);
     }
@@ -128,17 +101,17 @@ private slots:
 
     void languageChange()
     {
-        open();
+        newSubject();
         fill("a| b|c");
         const Brackets brackets;
         const int form = host.calls.indexOf(isDialog() ? "translate(Cancel)" : "translate(OK)");
         QVERIFY(form >= 0 && form < host.calls.indexOf("retranslate()"));
         QCOMPARE(texts("question"), QString("question 70'|question 0'|question 110'"));
         QCOMPARE(texts("answer"), QString("a| b|c"));
-        QCOMPARE(line("answer_2")->placeholderText(), QString("[Please enter the answer to question 2]"));
+        QCOMPARE(edit("answer_2")->placeholderText(), QString("[Please enter the answer to question 2]"));
         if (!isDialog())
             return;
-        QCOMPARE(subject->windowTitle(), QString("[Get Back Password]"));
+        QCOMPARE(window->windowTitle(), QString("[Get Back Password]"));
         host.answersRight = true;
         submit("click");
         const Brackets again;
@@ -147,11 +120,11 @@ private slots:
 
     void otherWays()
     {
-        open();
-        QTest::mouseClick(child<QPushButton>("backBt"), Qt::LeftButton);
+        newSubject();
+        click("backBt");
         QCOMPARE(deeds(), QString("signalLoginEvent(0)"));
-        QTest::mouseClick(child<QLabel>("forgotAllBt"), Qt::RightButton);
-        QTest::mousePress(child<QLabel>("forgotAllBt"), Qt::LeftButton);
+        QTest::mouseClick(child("forgotAllBt"), Qt::RightButton);
+        QTest::mousePress(child("forgotAllBt"), Qt::LeftButton);
         QCOMPARE(deeds(), QString("signalLoginEvent(2)"));
     }
 
@@ -161,24 +134,24 @@ private slots:
         QPointer<QWidget> parent = new QWidget;
         parent->show();
         QTimer::singleShot(0, this, [this] {
-            subject = QApplication::activeModalWidget();
-            const auto closed = qScopeGuard([this] { QTest::keyClick(subject, Qt::Key_Escape); });
-            QVERIFY(isDialog() && !child<QWidget>("pwdWt")->isVisible());
+            window = QApplication::activeModalWidget();
+            const auto closed = qScopeGuard([this] { QTest::keyClick(window, Qt::Key_Escape); });
+            QVERIFY(isDialog() && !child("pwdWt")->isVisible());
             fill("a|b|c");
             submit("enter");
-            QVERIFY(texts("answer") == "one|two|three" && line("answer_1")->isReadOnly());
+            QVERIFY(texts("answer") == "one|two|three" && edit("answer_1")->isReadOnly());
             auto *label = child<QLabel>("password");
-            QVERIFY(label->isVisible() && !child<QPushButton>("cancelBt")->isVisible());
+            QVERIFY(label->isVisible() && !child("cancelBt")->isVisible());
             submit("return");
             QCOMPARE(QGuiApplication::clipboard()->text(), password);
             QCOMPARE(deeds(), QString("verifySuperUserAnswers(root,a,b,c) getbackPwdLog(root)"));
             // Any 16 characters are seen whole, whatever they mean as markup.
             label->setText("<b>" + QString(13, 'W'));
-            QVERIFY(label->sizeHint().width() > label->fontMetrics().horizontalAdvance(QString(13, 'W')));
+            QVERIFY(label->sizeHint().width() >= label->fontMetrics().horizontalAdvance(label->text()));
             QVERIFY(label->sizeHint().width() <= label->width());
         });
         LoginAccess::_instance().getbackPassword(parent);
-        QVERIFY(!subject && parent);
+        QVERIFY(!window && parent);
         QTimer::singleShot(0, this, [] {
             QTest::mouseClick(QApplication::activeModalWidget()->findChild<QPushButton *>("cancelBt"), Qt::LeftButton);
         });
@@ -189,58 +162,47 @@ private slots:
     }
 
 private:
-    void open()
+    void newSubject()
     {
-        subject = QTest::currentDataTag() == QByteArray("dialog") ? static_cast<QWidget *>(new GetbackPwdDlg(nullptr))
-                                                                  : new VerifySecretAnswerWt("ann", nullptr);
-        subject->show();
-        QVERIFY(QTest::qWaitForWindowActive(subject));
-        host.calls.clear();
+        const bool asDialog = QTest::currentDataTag() == QByteArray("dialog");
+        open(asDialog ? static_cast<QWidget *>(new GetbackPwdDlg(nullptr)) : new VerifySecretAnswerWt("ann", nullptr));
     }
 
-    template <typename T>
-    T *child(const QString &name) const
-    {
-        return subject->findChild<T *>(name);
-    }
-
-    bool isDialog() const { return qobject_cast<GetbackPwdDlg *>(subject); }
-    QLineEdit *line(const QString &name) const { return child<QLineEdit>(name); }
+    bool isDialog() const { return qobject_cast<GetbackPwdDlg *>(window); }
 
     QString texts(const QString &column) const
     {
-        return line(column + "_1")->text() + '|' + line(column + "_2")->text() + '|' + line(column + "_3")->text();
+        return edit(column + "_1")->text() + '|' + edit(column + "_2")->text() + '|' + edit(column + "_3")->text();
     }
 
     void fill(const QString &answers)
     {
         for (int i = 0; i < 3; ++i)
-            line(QString("answer_%1").arg(i + 1))->setText(answers.section('|', i, i));
+            edit(QString("answer_%1").arg(i + 1))->setText(answers.section('|', i, i));
     }
 
     void submit(const QString &by)
     {
         if (by == "click")
-            return QTest::mouseClick(child<QPushButton>(isDialog() ? "operBt" : "okBt"), Qt::LeftButton);
-        QKeyEvent press(QEvent::KeyPress, by == "enter" ? Qt::Key_Enter : Qt::Key_Return, {}, "\r", by == "held");
-        QCoreApplication::sendEvent(line("answer_2"), &press);
+            click(isDialog() ? "operBt" : "okBt");
+        else if (by == "held")
+            holdEnter(edit("answer_2"));
+        else
+            QTest::keyClick(edit("answer_2"), by == "enter" ? Qt::Key_Enter : Qt::Key_Return);
     }
 
     /** The field that the tip hangs from. */
     QString tipAfter(const QString &wayAndAnswers)
     {
-        QTest::mousePress(subject, Qt::RightButton); // takes the last tip away
+        QTest::mousePress(window, Qt::RightButton); // takes the last tip away
         fill(wayAndAnswers.section('|', 1));
         submit(wayAndAnswers.section('|', 0, 0));
         for (const char *name : {"answer_1", "answer_2", "answer_3"}) {
-            const auto *tip = line(name)->findChild<QLabel *>("qtooltip_label");
-            if (tip && tip->isVisible() && tip->text() == "answer can not be empty or be all blank!")
+            if (tipAt(edit(name)) == "answer can not be empty or be all blank!")
                 return name;
         }
         return {};
     }
-
-    QPointer<QWidget> subject;
 };
 
 QTEST_MAIN(TestRecovery)

@@ -1,36 +1,19 @@
-#include "fakehost/Brackets.h"
+#include "TestTools.h"
 #include "host/kelvra_base/ComboBox.h"
-#include "host/kelvra_worker/DictDef.h"
-#include "login/frame/LoginDlg.h"
-#include "login/frame/LoginSignals.h"
 #include "login/frame/Screens.h"
 #include "login/local/PwdTipWt.h"
 #include "login/superuser/CreateSuperUserWt.h"
 
-#include <QtTest>
-#include <QtWidgets>
-
 using namespace kelvra_login;
 using kelvra_base::ComboBox;
-using kelvra_worker::DictDef;
 
 namespace {
 
 const QString good = "abcd1234";
+const QString emptyName = "userWt: User name can not be empty or be all blank!";
 const QStringList fields = {"userWt", "inputPwdWt", "confirmPwdWt"};
 const QStringList boxes = {"question_1", "question_2", "question_3"};
 const QStringList answers = {"answer_1", "answer_2", "answer_3"};
-
-const QString loggedIn = " updateUserLoginRecord(%1,true) setCurUserInfo(1,%1,abcd1234,0,true) signalLoginSuccess()";
-
-FakeHost &host = FakeHost::get();
-
-/** What was stored, logged and announced since the last call, in order. */
-QString deeds()
-{
-    const QRegularExpression told("^(add|create|reset|updateUser|setCur|messageAlert|signal)");
-    return std::exchange(host.calls, {}).filter(told).join(' ');
-}
 
 /** The marks of the rules in their order, those of broken rules in brackets. */
 QString rules(const PwdTipWt *tip)
@@ -45,7 +28,7 @@ QString rules(const PwdTipWt *tip)
 
 } // namespace
 
-class TestSuperUser : public QObject
+class TestSuperUser : public WindowTest
 {
     Q_OBJECT
 
@@ -53,46 +36,33 @@ private slots:
     void initTestCase()
     {
         enterScreens();
-        // Among the host's calls, so that the order of both shows.
-        const auto &hub = LoginSignals::_instance();
-        connect(&hub, &LoginSignals::signalLoginEvent, this,
-                [](LoginEvent event) { host.record("signalLoginEvent", {QString::number(event)}); });
-        connect(&hub, &LoginSignals::signalLoginSuccess, this, [] { host.record("signalLoginSuccess", {}); });
-        connect(&hub, &LoginSignals::signalPwdStrength, this, [this](int strength, bool visible) {
+        const auto rate = [this](int strength, bool visible) {
             ratings << QString::number(strength) + (visible ? " shown" : " hidden");
-        });
+        };
+        connect(&LoginSignals::_instance(), &LoginSignals::signalPwdStrength, this, rate);
     }
 
     void init()
     {
-        host.reset();
-        host.users["root"].superUser = true;
-        open(CreateSuperUser);
+        resetHost();
+        newDialog(CreateSuperUser);
     }
 
-    void cleanup() { dialog.reset(); }
-
-    void rating_data()
-    {
-        QTest::addColumn<QString>("password");
-        QTest::addColumn<int>("tipClass");
-        QTest::newRow("too short") << "user123" << 0;
-        QTest::newRow("one kind") << "abcdefgh" << 2;
-        QTest::newRow("name") << "user1234" << 1;
-        QTest::newRow("name reversed") << "4321resu" << 1;
-        QTest::newRow("good") << good << 3;
-    }
+    void cleanup() { delete window; }
 
     void rating()
     {
-        QFETCH(QString, password);
-        QFETCH(int, tipClass);
-        const QString refused = tipClass == 3 ? "" : "inputPwdWt: Illegal password!";
-        QCOMPARE(submit("user1234", password, password), refused);
-        QCOMPARE(rules(tip()), QStringList({"[·][·]√", "√√[·]", "[·]√√", "√√√"}).at(tipClass));
-        open(ResetSuperUserPwd, {"user1234"});
-        QCOMPARE(submit("", password, password), refused);
-        QCOMPARE(ratings.last(), QString("%1 hidden").arg(tipClass));
+        const QStringList marks{"[·][·]√", "√√[·]", "[·]√√", "√√√"}; // by class
+        const QMap<QString, int> classes{{"user123", 0}, {"user1234", 1}, {"4321resu", 1}, {"abcdefgh", 2}, {good, 3}};
+        for (const QString &password : classes.keys()) {
+            const QString refused = classes[password] == 3 ? "" : "inputPwdWt: Illegal password!";
+            newDialog(CreateSuperUser);
+            QCOMPARE(submit("user1234", password, password), refused);
+            QCOMPARE(password + rules(tip()), password + marks.at(classes[password]));
+            newDialog(ResetSuperUserPwd, {"user1234"});
+            QCOMPARE(submit("", password, password), refused);
+            QCOMPARE(ratings.last(), QString("%1 hidden").arg(classes[password]));
+        }
     }
 
     void tipComesAndGoes()
@@ -117,30 +87,25 @@ private slots:
         QVERIFY(ratings.last() == "1 hidden" && !tip()->isVisible());
         edit("inputPwdWt")->setFocus();
         QVERIFY(tip()->isVisible());
-        show(SetSecretAnswer);
+        showScreen(SetSecretAnswer);
         QVERIFY(!tip()->isVisible());
     }
 
     void focusMarksTheFields()
     {
-        const auto framed = [this](const QString &field) {
-            return child(field)->styleSheet().contains("border:1px solid #2c7dce");
-        };
         QTest::mouseMove(child("label"));
         for (const QString &focused : fields) { // no page before had the focus, so the first field takes it
             for (const QString &field : fields)
-                QCOMPARE(framed(field), field == focused);
+                QCOMPARE(isFramed(child(field)), field == focused);
             QTest::keyClick(edit(focused), Qt::Key_Tab);
         }
-        QVERIFY(!framed("confirmPwdWt") && !child("confirmPwdWt")->findChild<QLabel *>("pwdImage")->isVisible());
-        open(ResetSuperUserPwd, {"root"});
-        QVERIFY(!edit("userWt")->isEnabled() && edit("userWt")->text() == "root");
-        QCOMPARE(child("userWt")->grab().toImage().pixelColor(8, 8), QColor("#253141"));
+        const QWidget *confirmation = child("confirmPwdWt");
+        QVERIFY(!isFramed(confirmation) && !confirmation->findChild<QLabel *>("pwdImage")->isVisible());
     }
 
     void creation()
     {
-        QCOMPARE(submit("  ", "abc", "x"), QString("userWt: User name can not be empty or be all blank!"));
+        QCOMPARE(submit("  ", "abc", "x"), emptyName);
         QCOMPARE(submit("root", "abc", "x"), QString("userWt: User name already exists!"));
         QCOMPARE(submit("me", "abc", "x"), QString("inputPwdWt: Illegal password!"));
         QCOMPARE(submit("me", good, "x"), QString("confirmPwdWt: The two passwords are not the same!"));
@@ -149,36 +114,29 @@ private slots:
         QCOMPARE(page->getSuperUserInfo().remark, QString("me")); // the further text that goes no further
         handOver();
         QCOMPARE(deeds(), QString("signalLoginEvent(3)"));
-        for (int i = 0; i < 3; ++i)
-            QCOMPARE(child<ComboBox>(boxes[i])->currentText(), QString("question %1").arg(40 * i));
-        QTest::keyClick(child("question_1"), Qt::Key_Down);
-        fillAnswers();
-        QCOMPARE(press("loginBt"), QString());
-        QCOMPARE(deeds(), "addSuperUser(me) createUserLog(me)" + loggedIn.arg("me"));
-        const auto &added = host.addedSuperUser;
-        QCOMPARE(QStringList({added.password, added.displayName, added.remark, added.answer1, added.answer3}),
-                 QStringList({good, "", "", "a 0", "a 2"}));
-        QCOMPARE(QList<int>({added.role, added.id, added.question1, added.question2, added.question3}),
-                 QList<int>({0, -1, 10, 40, 80}));
-    }
-
-    void answersAreAsked()
-    {
-        handOver();
         for (int missing = 2; missing >= 0; --missing) { // the first one that is missing counts
             fillAnswers();
             for (int i = missing; i < 3; ++i)
                 edit(answers[i])->setText("  ");
             QCOMPARE(press("loginBt"), answers[missing] + ": answer can not be empty or be all blank!");
         }
-        QCOMPARE(deeds(), QString("signalLoginEvent(3)"));
         for (int changed = 0; changed < 3; ++changed) {
             fillAnswers();
+            QCOMPARE(child<ComboBox>(boxes[changed])->currentText(), QString("question %1").arg(40 * changed));
             QTest::keyClick(child(boxes[changed]), Qt::Key_Down);
             for (int i = 0; i < 3; ++i)
                 QCOMPARE(edit(answers[i])->text().isEmpty(), i == changed);
         }
         QCOMPARE(child<ComboBox>("question_3")->itemData(2, Qt::ToolTipRole).toString(), QString("question 20"));
+        fillAnswers();
+        QCOMPARE(deeds(), QString());
+        QCOMPARE(press("loginBt"), QString());
+        QCOMPARE(deeds(), "addSuperUser(me) createUserLog(me) " + localLogin("me,abcd1234,0", "true"));
+        const auto &added = host.addedSuperUser;
+        QCOMPARE(QStringList({added.password, added.displayName, added.remark, added.answer1, added.answer3}),
+                 QStringList({good, "", "", "a 0", "a 2"}));
+        QCOMPARE(QList<int>({added.role, added.id, added.question1, added.question2, added.question3}),
+                 QList<int>({0, -1, 10, 50, 90}));
     }
 
     void refusedCreation()
@@ -190,32 +148,34 @@ private slots:
         deeds();
         press("loginBt");
         QCOMPARE(deeds(), refused.arg("me"));
-        QCOMPARE(host.alerts.last().first, DictDef::_instance().alertTitle(DictDef::OperationFailedTitle));
         press("backBt");
         QCOMPARE(edit("userWt")->text() + edit("inputPwdWt")->text(), "me" + good);
         type("userWt", "too");
         press("createBt");
-        host.whileAlertIsOpen = [this] { dialog.reset(); };
+        host.whileAlertIsOpen = [this] { delete window; };
         QTest::keyClick(edit("answer_1"), Qt::Key_Return);
         QCOMPARE(deeds(), "signalLoginEvent(2) signalLoginEvent(3) " + refused.arg("metoo"));
+        QCOMPARE(host.alerts.last().first, QString("title 0"));
     }
 
     void reset()
     {
-        open(ResetSuperUserPwd, {""});
-        QCOMPARE(submit("", "abc", "x"), QString("userWt: User name can not be empty or be all blank!"));
-        open(ResetSuperUserPwd, {"root"});
+        newDialog(ResetSuperUserPwd, {""});
+        QCOMPARE(submit("", "abc", "x"), emptyName);
+        newDialog(ResetSuperUserPwd, {"root"});
+        QVERIFY(!edit("userWt")->isEnabled() && edit("userWt")->text() == "root");
+        QCOMPARE(child("userWt")->grab().toImage().pixelColor(8, 8), QColor("#253141"));
         QCOMPARE(submit("", "abc", "x"), QString("inputPwdWt: Illegal password!"));
         QCOMPARE(submit("", good, "x"), QString("confirmPwdWt: The two passwords are not the same!"));
         child<QCheckBox>("autoLogin")->click();
         submit("", good, good);
-        QCOMPARE(deeds(), "resetUserPwd(root,abcd1234) resetUserPwdLog(root)" + loggedIn.arg("root"));
-        open(ResetSuperUserPwd, {"root"});
+        QCOMPARE(deeds(), "resetUserPwd(root,abcd1234) resetUserPwdLog(root) " + localLogin("root,abcd1234,0", "true"));
+        newDialog(ResetSuperUserPwd, {"root"});
         host.resetUserPwdSucceeds = false;
-        host.whileAlertIsOpen = [this] { dialog.reset(); };
+        host.whileAlertIsOpen = [this] { delete window; };
         submit("", good, good);
         QCOMPARE(deeds(), QString("resetUserPwd(root,abcd1234) messageAlert(reset [root] pwd failed)"));
-        QCOMPARE(host.alerts.last().first, DictDef::_instance().alertTitle(DictDef::OperationFailedTitle));
+        QCOMPARE(host.alerts.last().first, QString("title 0"));
     }
 
     void languageChange()
@@ -245,49 +205,31 @@ private slots:
     void enterIsOneClick()
     {
         for (const int event : {CreateSuperUser, SetSecretAnswer, ResetSuperUserPwd}) {
-            open(event, {"root"});
+            newDialog(event, {"root"});
             const QString button = event == CreateSuperUser ? "createBt" : "loginBt";
             const QSignalSpy clicked(child<QPushButton>(button), &QPushButton::clicked);
             QLineEdit *field = edit(event == SetSecretAnswer ? "answer_2" : "inputPwdWt");
             QTest::keyClick(field, Qt::Key_Return);
             QTest::keyClick(field, Qt::Key_Enter);
-            QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, {}, "\r", true);
-            QCoreApplication::sendEvent(field, &held);
+            holdEnter(field);
             QCOMPARE(clicked.count(), 2);
         }
     }
 
 private:
-    void open(int event, const QStringList &params = {})
+    QWidget *root() const override // the page that is shown
     {
-        dialog = std::make_unique<LoginDlg>(nullptr);
-        dialog->show();
-        QVERIFY(QTest::qWaitForWindowActive(dialog.get()));
-        show(event, params);
+        return window->findChild<QWidget *>("loginWt")->findChild<QStackedWidget *>()->currentWidget();
+    }
+
+    void newDialog(int event, const QStringList &params = {})
+    {
+        open(new LoginDlg(nullptr));
+        showScreen(event, params);
         deeds();
     }
 
-    static void show(int event, const QStringList &params = {})
-    {
-        emit LoginSignals::_instance().signalLoginEvent(LoginEvent(event), params);
-    }
-
-    PwdTipWt *tip() const { return dialog->findChild<PwdTipWt *>(); }
-
-    // Of the page that is shown.
-    template <typename T = QWidget>
-    T *child(const QString &name) const
-    {
-        const auto *stack = dialog->findChild<QWidget *>("loginWt")->findChild<QStackedWidget *>("stackedWidget");
-        return stack->currentWidget()->findChild<T *>(name);
-    }
-
-    // The line edit of that name, or the one in the field of that name.
-    QLineEdit *edit(const QString &name) const
-    {
-        auto *lineEdit = child<QLineEdit>(name);
-        return lineEdit ? lineEdit : child(name)->findChild<QLineEdit *>();
-    }
+    PwdTipWt *tip() const { return window->findChild<PwdTipWt *>(); }
 
     // With the keys, behind what is there.
     void type(const QString &field, const QString &text) const
@@ -297,18 +239,17 @@ private:
         QTest::keyClicks(edit(field), text);
     }
 
-    // The tip that a click leaves, with the lowest field that begins above it.
+    // The tip that a click leaves, with the field that it hangs from.
     QString press(const QString &button) const
     {
-        QTest::mouseClick(child(button), Qt::LeftButton); // takes the last tip away
-        QString found;
-        for (const QWidget *label : QApplication::topLevelWidgets()) {
-            if (!dialog || !label->inherits("QTipLabel") || !label->isVisible())
-                continue;
-            for (const QString &field : child("answer_1") ? answers : fields)
-                found = label->y() > edit(field)->mapToGlobal({}).y() ? field + ": " + QToolTip::text() : found;
+        click(button); // takes the last tip away
+        if (!window)
+            return QString();
+        for (const QString &field : child("answer_1") ? answers : fields) {
+            if (!tipAt(edit(field)).isEmpty())
+                return field + ": " + tipAt(edit(field));
         }
-        return found;
+        return QString();
     }
 
     QString submit(const QString &name, const QString &password, const QString &confirmation) const
@@ -333,7 +274,6 @@ private:
             edit(answers[i])->setText(QString(" a %1 ").arg(i));
     }
 
-    std::unique_ptr<LoginDlg> dialog;
     QStringList ratings;
 };
 

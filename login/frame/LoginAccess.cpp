@@ -4,6 +4,8 @@
 #include "host/kelvra_worker/LoginLogs.h"
 #include "host/kelvra_worker/SystemWorker.h"
 #include "login/frame/Alerts.h"
+#include "login/gesture/AddGesturePwdDlg.h"
+#include "login/gesture/GestureVerifyDlg.h"
 #include "login/superuser/GetbackPwdDlg.h"
 
 #include <QDataStream>
@@ -26,6 +28,21 @@ kelvra_login::LoginAccess &ZCOMMON::ZSingleton<kelvra_login::LoginAccess>::_inst
 namespace kelvra_login {
 
 namespace {
+
+/** Runs a dialog of its own and deletes it. The parent may go, and take the dialog with it, while it is open. */
+int run(QDialog *newDialog)
+{
+    const QPointer<QDialog> dialog = newDialog;
+    const int result = dialog->exec();
+    delete dialog;
+    return result;
+}
+
+// A copy: what an operation leads to may change the host's own.
+QString currentUser()
+{
+    return SystemWorker::_instance().getCurUserName();
+}
 
 bool writeCredentials(const QString &filePath, const QString &content)
 {
@@ -53,25 +70,80 @@ LoginAccess::LoginAccess(QObject *parent)
 
 LoginAccess::~LoginAccess() = default;
 
+void LoginAccess::addCurUserGesture(QWidget *parent)
+{
+    addUserGesture(parent, currentUser());
+}
+
+void LoginAccess::addUserGesture(QWidget *parent, const QString &userName)
+{
+    auto *dialog = new AddGesturePwdDlg(parent);
+    dialog->setUserName(userName);
+    run(dialog);
+}
+
+bool LoginAccess::deleteCurUserGesture()
+{
+    return deleteUserGesture(currentUser());
+}
+
+bool LoginAccess::deleteUserGesture(const QString &userName)
+{
+    const bool ok = UserData::_instance().deleteUserGesture(userName);
+    if (ok)
+        LoginLogs::_instance().deleteGestureLog(userName);
+    return ok;
+}
+
+bool LoginAccess::gestureVerify(QWidget *parent)
+{
+    return run(new GestureVerifyDlg(parent)) == QDialog::Accepted;
+}
+
+bool LoginAccess::isCurUserConfigureGesture()
+{
+    return UserData::_instance().isUserConfigureGesture(currentUser());
+}
+
+bool LoginAccess::isCurUserAutoLogin()
+{
+    return UserData::_instance().isUserAutoLogin(currentUser());
+}
+
+bool LoginAccess::openCurUserAutoLogin()
+{
+    const QString user = currentUser();
+    const bool ok = UserData::_instance().userAutoLoginCtrl(user, true);
+    if (ok)
+        LoginLogs::_instance().openAutoLoginLog(user);
+    return ok;
+}
+
+bool LoginAccess::cancelCurUserAutoLogin()
+{
+    const QString user = currentUser();
+    const bool ok = UserData::_instance().userAutoLoginCtrl(user, false);
+    if (ok)
+        LoginLogs::_instance().cancelAutoLoginLog(user);
+    return ok;
+}
+
 void LoginAccess::getbackPassword(QWidget *parent)
 {
-    // On the heap and guarded: the parent may go, and take the dialog with it, while it is open.
-    const QPointer<GetbackPwdDlg> dialog = new GetbackPwdDlg(parent);
-    dialog->exec();
-    delete dialog;
+    run(new GetbackPwdDlg(parent));
 }
 
 void LoginAccess::exportLoginCredentials(const QString &filePath)
 {
     if (filePath.isEmpty())
         return;
-    const auto &systemWorker = SystemWorker::_instance();
-    const QString content = UserData::_instance().generateSuperUserCredentials(systemWorker.getSuperUserName());
+    const QString superUser = SystemWorker::_instance().getSuperUserName();
+    const QString content = UserData::_instance().generateSuperUserCredentials(superUser);
     if (content.isEmpty() || !writeCredentials(filePath, content)) {
         warningAlert(tr("Failed to export login credentials"));
         return;
     }
-    LoginLogs::_instance().exportLoginCredentialsLog(systemWorker.getCurUserName());
+    LoginLogs::_instance().exportLoginCredentialsLog(currentUser());
     messageAlert(DictDef::InformationTitle, tr("Export login credentials success, you can get back or reset password "
                                                "using login credentials"));
 }

@@ -27,9 +27,28 @@ public:
     ~LoginAccess() override;
 
     /**
-     * Shows the superuser's password to whoever answers the security questions or has the login-credentials file.
-     * Blocks in an event loop of its own until the dialog is closed; `parent` may be destroyed meanwhile.
+     * Lets the user set or replace the gesture of the current user, or of `userName`. Like every operation that
+     * takes a parent it shows a dialog and blocks in an event loop of its own until that is closed; `parent` may be
+     * destroyed meanwhile.
      */
+    void addCurUserGesture(QWidget *parent);
+    void addUserGesture(QWidget *parent, const QString &userName);
+
+    /** Takes the gesture of the current user, or of `userName`, away; the data library's answer. */
+    bool deleteCurUserGesture();
+    bool deleteUserGesture(const QString &userName);
+
+    /** Asks the current user for the gesture; false when the dialog is closed without the right one. */
+    bool gestureVerify(QWidget *parent);
+
+    bool isCurUserConfigureGesture();
+
+    /** Whether the current user is logged in automatically, and the switches; the data library's answers. */
+    bool isCurUserAutoLogin();
+    bool openCurUserAutoLogin();
+    bool cancelCurUserAutoLogin();
+
+    /** Shows the superuser's password to whoever answers the security questions or has the login-credentials file. */
     void getbackPassword(QWidget *parent);
 
     /**

@@ -7,6 +7,7 @@
 #include "host/kelvra_worker/SystemWorker.h"
 #include "host/kelvra_worker/UiSettings.h"
 #include "login/frame/Alerts.h"
+#include "login/frame/CloudAnswer.h"
 #include "login/frame/LoginDlg.h"
 #include "login/frame/LoginSignals.h"
 
@@ -14,10 +15,8 @@
 #include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
-#include <QPointer>
 #include <QStandardPaths>
 #include <QTimer>
-#include <QUuid>
 
 using kelvra_base::BaseTools;
 using kelvra_data::SuperUserInfo;
@@ -118,17 +117,15 @@ void LoginWorker::tryHandedOverLogin(UserType type, const QStringList &params)
 
 void LoginWorker::tryCloudAutoLogin(const QString &account, const QString &password)
 {
-    const QPointer<LoginWorker> self(this);
+    const QString requestId = newRequestId();
     kelvra_saas::LoginWorker::_instance().tryAutoLogin(
-        QUuid::createUuid().toString(), account, password,
-        [self](const kelvra_saas::Response &response, const QString &answeredAccount) {
-            if (!self)
-                return;
-            if (response.code == kelvra_saas::successCode)
-                self->saasLoginSuccess(answeredAccount, true);
-            else
+        requestId, account, password,
+        answerTo(requestId, this, [this](const kelvra_saas::Response &response, const QString &answeredAccount) {
+            if (response.code != kelvra_saas::successCode)
                 kelvra_saas::LoginWorker::_instance().cancelAccountAutoLogin(answeredAccount);
-        });
+            else if (!SystemWorker::_instance().isLoginSuccess()) // whoever has logged in by hand meanwhile stays
+                saasLoginSuccess(answeredAccount, true);
+        }));
 }
 
 void LoginWorker::finishHandedOverLogin(const QString &userName, const QString &pwd)

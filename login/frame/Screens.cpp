@@ -1,5 +1,6 @@
 #include "login/frame/Screens.h"
 
+#include "login/gesture/GestureLoginWt.h"
 #include "login/local/LoginWt.h"
 #include "login/local/NormalLoginWt.h"
 #include "login/local/PwdTipWt.h"
@@ -37,6 +38,13 @@ void handOverSuperUser(const LoginWt &router, const QStringList &)
     questions->setAutoLogin(creation->isAutoLogin());
 }
 
+void handOverUserName(const LoginWt &router, const QStringList &params)
+{
+    auto *page = qobject_cast<GestureLoginWt *>(router.screen(GestureLogin));
+    if (page && !params.isEmpty())
+        page->setUserName(params.first());
+}
+
 QWidget *makeTip(QWidget *parent)
 {
     return new PwdTipWt(parent);
@@ -57,6 +65,7 @@ void enterScreens()
     ScreenTable::enter(SetSecretAnswer, {make<SetSecretAnswerWt>, handOverSuperUser});
     ScreenTable::enter(ResetSuperUserPwd, {makeForUser<ResetSuperUserPwdWt>, {}});
     ScreenTable::enter(VerifySecretAnswer, {makeForUser<VerifySecretAnswerWt>, {}});
+    ScreenTable::enter(GestureLogin, {make<GestureLoginWt>, handOverUserName});
     ScreenTable::enter(LoginMethodSel, {make<LoginMethodSelWt>, {}});
     ScreenTable::enterTip({makeTip, setTipStrength});
 }

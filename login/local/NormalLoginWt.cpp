@@ -11,6 +11,7 @@
 #include "host/kelvra_worker/SystemWorker.h"
 #include "host/kelvra_worker/UiSettings.h"
 #include "login/frame/Alerts.h"
+#include "login/frame/CloudAnswer.h"
 #include "login/frame/LoginSignals.h"
 #include "login/frame/LoginWorker.h"
 #include "login/local/FieldStyle.h"
@@ -18,8 +19,6 @@
 
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QPointer>
-#include <QUuid>
 
 #include <utility>
 
@@ -175,20 +174,25 @@ void NormalLoginWt::selectTab(bool cloud, QWidget *page)
 
 void NormalLoginWt::tryCloudAutoLogin()
 {
-    auto &cloud = kelvra_saas::LoginWorker::_instance();
-    const QPointer<NormalLoginWt> self(this);
-    cloud.tryAutoLogin(QUuid::createUuid().toString(), cloud.getRecentlyLoggedInAccount(),
-                       [self](const kelvra_saas::Response &response, const QString &account) {
-                           if (!self)
-                               return;
-                           if (response.code == kelvra_saas::successCode) {
-                               LoginWorker::_instance().saasLoginSuccess(account, true);
-                               return;
-                           }
-                           kelvra_saas::LoginWorker::_instance().cancelAccountAutoLogin(account);
-                           warningAlert(tr("Nimbra account auto login failure:%1")
-                                            .arg(kelvra_saas::saasErrorMsg(response.code, response.subCode)));
-                       });
+    const QString requestId = newRequestId();
+    kelvra_saas::LoginWorker::_instance().tryAutoLogin(
+        requestId, ui->kelvra_login__SaasPwdLoginWt->account(),
+        answerTo(requestId, this, [this](const kelvra_saas::Response &response, const QString &account) {
+            cloudAutoLoginAnswered(response, account);
+        }));
+}
+
+void NormalLoginWt::cloudAutoLoginAnswered(const kelvra_saas::Response &response, const QString &account)
+{
+    if (response.code == kelvra_saas::successCode) {
+        // Whoever has logged in by hand meanwhile stays.
+        if (!quitting && !SystemWorker::_instance().isLoginSuccess())
+            LoginWorker::_instance().saasLoginSuccess(account, true);
+        return;
+    }
+    kelvra_saas::LoginWorker::_instance().cancelAccountAutoLogin(account);
+    warningAlert(
+        tr("Nimbra account auto login failure:%1").arg(kelvra_saas::saasErrorMsg(response.code, response.subCode)));
 }
 
 void NormalLoginWt::clickLoginSoon()
@@ -412,8 +416,12 @@ void NormalLoginWt::showEvent(QShowEvent *event)
 {
     refreshLinkRow();
     // The first-run page takes no focus, so that there is none to inherit from it.
-    if (!window()->focusWidget())
-        ui->localUserWt->setFocus();
+    if (!window()->focusWidget()) {
+        if (ui->saasUserTab->isChecked())
+            ui->kelvra_login__SaasPwdLoginWt->setFocus();
+        else
+            ui->localUserWt->setFocus();
+    }
     QWidget::showEvent(event);
 }
 

@@ -11,6 +11,10 @@ namespace kelvra_base {
 class CapsLockToolTipHandler;
 }
 
+namespace kelvra_saas {
+struct Response;
+}
+
 namespace kelvra_login {
 
 namespace Ui {
@@ -54,6 +58,7 @@ private:
     void checkRememberedLogin();
     void clickLoginSoon();
     void tryCloudAutoLogin();
+    void cloudAutoLoginAnswered(const kelvra_saas::Response &response, const QString &account);
     void startLock(const QString &userName);
     void startCountDown();
     int remainingLockSeconds() const;

@@ -15,6 +15,8 @@
 
 #include <QWidget>
 
+#include <algorithm>
+
 namespace {
 
 FakeHost &fake()
@@ -22,26 +24,41 @@ FakeHost &fake()
     return FakeHost::get();
 }
 
-QString text(bool value)
-{
-    return value ? QStringLiteral("true") : QStringLiteral("false");
-}
-
-QString text(int value)
-{
-    return QString::number(value);
-}
-
-QString text(const QString &value)
-{
-    return value;
-}
-
 template <typename... Arguments>
 void record(const char *operation, const Arguments &...arguments)
 {
-    fake().record(QString::fromLatin1(operation), {text(arguments)...});
+    fake().record(QString::fromLatin1(operation), {QVariant(arguments).toString()...});
 }
+
+/** Records a call of `operation` with the arguments that it is handed. */
+auto recordedAs(const char *operation)
+{
+    return [operation](const auto &...arguments) { record(operation, arguments...); };
+}
+
+// An operation that records the arguments in the second brackets and answers, or does, what the last argument says.
+#define ANSWERED(RESULT, NAME, PARAMETERS, ARGUMENTS, ANSWER)                                                          \
+    RESULT NAME PARAMETERS                                                                                             \
+    {                                                                                                                  \
+        recordedAs(__func__) ARGUMENTS;                                                                                \
+        return ANSWER;                                                                                                 \
+    }
+#define UNRECORDED(RESULT, SIGNATURE, ANSWER)                                                                          \
+    RESULT SIGNATURE                                                                                                   \
+    {                                                                                                                  \
+        return ANSWER;                                                                                                 \
+    }
+#define DONE(NAME, PARAMETERS, ARGUMENTS, ACTION) ANSWERED(void, NAME, PARAMETERS, ARGUMENTS, void(ACTION))
+#define TOLD(NAME, PARAMETERS, ARGUMENTS) DONE(NAME, PARAMETERS, ARGUMENTS, 0)
+
+#define STATELESS(CLASS)                                                                                               \
+    CLASS::CLASS() = default;                                                                                          \
+    CLASS::~CLASS() = default;
+#define WITHOUT_PRIVATE_STATE(CLASS)                                                                                   \
+    class CLASS::Private                                                                                               \
+    {                                                                                                                  \
+    };                                                                                                                 \
+    STATELESS(CLASS)
 
 // An open alert lets the test act for once: what it does may well open another.
 void runOnce(std::function<void()> &action)
@@ -103,40 +120,13 @@ ZSINGLETON_DEFINE(kelvra_data::UserData)
 
 namespace kelvra_data {
 
-class UserData::Private
-{
-};
+WITHOUT_PRIVATE_STATE(UserData)
 
-UserData::UserData() = default;
-UserData::~UserData() = default;
-
-bool UserData::isFirstLogin()
-{
-    record("isFirstLogin");
-    return fake().firstLogin;
-}
-
-bool UserData::isUserExist(const QString &name)
-{
-    record("isUserExist", name);
-    return fake().users.contains(name);
-}
-
-bool UserData::isSuperUser(const QString &name)
-{
-    record("isSuperUser", name);
-    return fake().users.value(name).superUser;
-}
-
-bool UserData::isSuperUserExist(UserRole role)
-{
-    record("isSuperUserExist", int(role));
-    for (const FakeHost::User &user : qAsConst(fake().users)) {
-        if (user.superUser)
-            return true;
-    }
-    return false;
-}
+ANSWERED(bool, UserData::isFirstLogin, (), (), fake().firstLogin)
+ANSWERED(bool, UserData::isUserExist, (const QString &name), (name), fake().users.contains(name))
+ANSWERED(bool, UserData::isSuperUser, (const QString &name), (name), fake().users.value(name).superUser)
+ANSWERED(bool, UserData::isSuperUserExist, (UserRole role), (int(role)),
+         std::any_of(fake().users.cbegin(), fake().users.cend(), [](const auto &user) { return user.superUser; }))
 
 UserInfo UserData::getUserInfo(const QString &name)
 {
@@ -150,29 +140,12 @@ UserInfo UserData::getUserInfo(const QString &name)
     return info;
 }
 
-SuperUserInfo UserData::getSuperUserInfo(const QString &name)
-{
-    record("getSuperUserInfo", name);
-    return fake().superUser;
-}
-
-QString UserData::getLastLoggedLocalUser()
-{
-    record("getLastLoggedLocalUser");
-    return fake().lastLocalUser;
-}
-
-bool UserData::verifyUserPassword(const QString &name, const QString &password)
-{
-    record("verifyUserPassword", name, password);
-    return fake().users.contains(name) && fake().users[name].password == password;
-}
-
-bool UserData::verifyUserGesture(const QString &name, const QString &gesture)
-{
-    record("verifyUserGesture", name, gesture);
-    return fake().users.contains(name) && fake().users[name].gesture == gesture;
-}
+ANSWERED(SuperUserInfo, UserData::getSuperUserInfo, (const QString &name), (name), fake().superUser)
+ANSWERED(QString, UserData::getLastLoggedLocalUser, (), (), fake().lastLocalUser)
+ANSWERED(bool, UserData::verifyUserPassword, (const QString &name, const QString &password), (name, password),
+         fake().users.contains(name) && fake().users[name].password == password)
+ANSWERED(bool, UserData::verifyUserGesture, (const QString &name, const QString &gesture), (name, gesture),
+         fake().users.contains(name) && fake().users[name].gesture == gesture)
 
 bool UserData::getLockInfo(bool &locked, int &seconds)
 {
@@ -194,11 +167,7 @@ bool UserData::updateLockInfo(bool locked, int seconds)
     return true;
 }
 
-bool UserData::updateUserLoginRecord(const QString &name, bool autoLogin)
-{
-    record("updateUserLoginRecord", name, autoLogin);
-    return true;
-}
+ANSWERED(bool, UserData::updateUserLoginRecord, (const QString &name, bool autoLogin), (name, autoLogin), true)
 
 bool UserData::getUserLoginRecord(const QString &name, bool &autoLogin, QDateTime &lastLogin)
 {
@@ -211,35 +180,22 @@ bool UserData::getUserLoginRecord(const QString &name, bool &autoLogin, QDateTim
     return true;
 }
 
-bool UserData::isUserAutoLogin(const QString &name)
+ANSWERED(bool, UserData::isUserAutoLogin, (const QString &name), (name), fake().users.value(name).autoLogin)
+ANSWERED(bool, UserData::userAutoLoginCtrl, (const QString &name, bool on), (name, on), fake().users.contains(name))
+ANSWERED(bool, UserData::updateLoginEnvironment, (), (), true)
+ANSWERED(bool, UserData::isSameLoginEnvironment, (), (), fake().sameEnvironment)
+ANSWERED(bool, UserData::isUserConfigureGesture, (const QString &name), (name),
+         !fake().users.value(name).gesture.isEmpty())
+
+bool UserData::updateUserGesture(const QString &name, const QString &gesture)
 {
-    record("isUserAutoLogin", name);
-    return fake().users.value(name).autoLogin;
+    record("updateUserGesture", name, gesture);
+    if (fake().gestureUpdatesSucceed)
+        fake().users[name].gesture = gesture;
+    return fake().gestureUpdatesSucceed;
 }
 
-bool UserData::userAutoLoginCtrl(const QString &name, bool on)
-{
-    record("userAutoLoginCtrl", name, on);
-    return fake().users.contains(name);
-}
-
-bool UserData::updateLoginEnvironment()
-{
-    record("updateLoginEnvironment");
-    return true;
-}
-
-bool UserData::isSameLoginEnvironment()
-{
-    record("isSameLoginEnvironment");
-    return fake().sameEnvironment;
-}
-
-bool UserData::isUserConfigureGesture(const QString &name)
-{
-    record("isUserConfigureGesture", name);
-    return !fake().users.value(name).gesture.isEmpty();
-}
+ANSWERED(bool, UserData::deleteUserGesture, (const QString &name), (name), fake().gestureUpdatesSucceed)
 
 bool UserData::addSuperUser(const SuperUserInfo &info)
 {
@@ -252,36 +208,15 @@ bool UserData::addSuperUser(const SuperUserInfo &info)
     return fake().addSuperUserSucceeds;
 }
 
-bool UserData::addSuperUserFromSaasUser(const QString &account)
-{
-    record("addSuperUserFromSaasUser", account);
-    return true;
-}
-
-bool UserData::resetUserPwd(const QString &name, const QString &password)
-{
-    record("resetUserPwd", name, password);
-    return fake().resetUserPwdSucceeds;
-}
-
-bool UserData::verifySuperUserAnswers(const QString &name, const QString &answer1, const QString &answer2,
-                                      const QString &answer3)
-{
-    record("verifySuperUserAnswers", name, answer1, answer2, answer3);
-    return fake().answersRight;
-}
-
-QString UserData::generateSuperUserCredentials(const QString &name)
-{
-    record("generateSuperUserCredentials", name);
-    return fake().credentials;
-}
-
-bool UserData::checkSuperUserCredentials(const QString &name, const QString &credential)
-{
-    record("checkSuperUserCredentials", name, credential);
-    return fake().credentialsValid;
-}
+ANSWERED(bool, UserData::addSuperUserFromSaasUser, (const QString &account), (account), true)
+ANSWERED(bool, UserData::resetUserPwd, (const QString &name, const QString &password), (name, password),
+         fake().resetUserPwdSucceeds)
+ANSWERED(bool, UserData::verifySuperUserAnswers,
+         (const QString &name, const QString &answer1, const QString &answer2, const QString &answer3),
+         (name, answer1, answer2, answer3), fake().answersRight)
+ANSWERED(QString, UserData::generateSuperUserCredentials, (const QString &name), (name), fake().credentials)
+ANSWERED(bool, UserData::checkSuperUserCredentials, (const QString &name, const QString &credential),
+         (name, credential), fake().credentialsValid)
 
 } // namespace kelvra_data
 
@@ -297,142 +232,52 @@ ZSINGLETON_DEFINE(kelvra_worker::SystemAssistant)
 
 namespace kelvra_worker {
 
-class SystemWorker::Private
-{
-};
+WITHOUT_PRIVATE_STATE(SystemWorker)
 
-SystemWorker::SystemWorker() = default;
-SystemWorker::~SystemWorker() = default;
+DONE(SystemWorker::setCurUserInfo,
+     (UserType type, const QString &name, const QString &password, int attribute, bool autoLogin),
+     (int(type), name, password, attribute, autoLogin), fake().currentUser = name)
+DONE(SystemWorker::setLoginSuccess, (bool success), (success), fake().loginSuccess = success)
+UNRECORDED(bool, SystemWorker::isLoginSuccess() const, fake().loginSuccess)
+DONE(SystemWorker::setLastLoggedInUserType, (UserType type), (int(type)), fake().lastUserType = type)
+UNRECORDED(UserType, SystemWorker::lastLoggedUserType() const, fake().lastUserType)
+UNRECORDED(const QString &, SystemWorker::getCurUserName() const, fake().currentUser)
+UNRECORDED(const QString &, SystemWorker::getSuperUserName() const, fake().superUser.userName)
+TOLD(SystemWorker::setSuperUserInfo, (const QString &name, const QString &password), (name, password))
 
-void SystemWorker::setCurUserInfo(UserType type, const QString &name, const QString &password, int attribute,
-                                  bool autoLogin)
-{
-    record("setCurUserInfo", int(type), name, password, attribute, autoLogin);
-    fake().currentUser = name;
-}
+STATELESS(LoginLogs)
 
-void SystemWorker::setLoginSuccess(bool success)
-{
-    record("setLoginSuccess", success);
-    fake().loginSuccess = success;
-}
+TOLD(LoginLogs::loginSuccessLog, (const QString &name, int method, bool autoLogin), (name, method, autoLogin))
+TOLD(LoginLogs::loginFailureLog, (const QString &name, int method), (name, method))
+TOLD(LoginLogs::lockUserLog, (const QString &name, int seconds), (name, seconds))
+TOLD(LoginLogs::addGestureLog, (const QString &name), (name))
+TOLD(LoginLogs::updateGestureLog, (const QString &name), (name))
+TOLD(LoginLogs::deleteGestureLog, (const QString &name), (name))
+TOLD(LoginLogs::openAutoLoginLog, (const QString &name), (name))
+TOLD(LoginLogs::cancelAutoLoginLog, (const QString &name), (name))
+TOLD(LoginLogs::resetUserPwdLog, (const QString &name), (name))
+TOLD(LoginLogs::createUserLog, (const QString &name), (name))
+TOLD(LoginLogs::getbackPwdLog, (const QString &name), (name))
+TOLD(LoginLogs::exportLoginCredentialsLog, (const QString &name), (name))
 
-bool SystemWorker::isLoginSuccess() const
-{
-    return fake().loginSuccess;
-}
+WITHOUT_PRIVATE_STATE(UiSettings)
 
-void SystemWorker::setLastLoggedInUserType(UserType type)
-{
-    record("setLastLoggedInUserType", int(type));
-    fake().lastUserType = type;
-}
+ANSWERED(QVariant, UiSettings::getValue, (const QString &key) const, (key), fake().settings.value(key))
+DONE(UiSettings::setValue, (const QString &key, const QVariant &value), (key, value.toString()),
+     fake().settings[key] = value)
 
-UserType SystemWorker::lastLoggedUserType() const
-{
-    return fake().lastUserType;
-}
+WITHOUT_PRIVATE_STATE(SysLanguage)
 
-const QString &SystemWorker::getCurUserName() const
-{
-    return fake().currentUser;
-}
-
-const QString &SystemWorker::getSuperUserName() const
-{
-    return fake().superUser.userName;
-}
-
-void SystemWorker::setSuperUserInfo(const QString &name, const QString &password)
-{
-    record("setSuperUserInfo", name, password);
-}
-
-LoginLogs::LoginLogs() = default;
-LoginLogs::~LoginLogs() = default;
-
-void LoginLogs::loginSuccessLog(const QString &name, int method, bool autoLogin)
-{
-    record("loginSuccessLog", name, method, autoLogin);
-}
-
-void LoginLogs::loginFailureLog(const QString &name, int method)
-{
-    record("loginFailureLog", name, method);
-}
-
-void LoginLogs::lockUserLog(const QString &name, int seconds)
-{
-    record("lockUserLog", name, seconds);
-}
-
-void LoginLogs::resetUserPwdLog(const QString &name)
-{
-    record("resetUserPwdLog", name);
-}
-
-void LoginLogs::createUserLog(const QString &name)
-{
-    record("createUserLog", name);
-}
-
-void LoginLogs::getbackPwdLog(const QString &name)
-{
-    record("getbackPwdLog", name);
-}
-
-void LoginLogs::exportLoginCredentialsLog(const QString &name)
-{
-    record("exportLoginCredentialsLog", name);
-}
-
-class UiSettings::Private
-{
-};
-
-UiSettings::UiSettings() = default;
-UiSettings::~UiSettings() = default;
-
-QVariant UiSettings::getValue(const QString &key) const
-{
-    record("getValue", key);
-    return fake().settings.value(key);
-}
-
-void UiSettings::setValue(const QString &key, const QVariant &value)
-{
-    record("setValue", key, value.toString());
-    fake().settings[key] = value;
-}
-
-class SysLanguage::Private
-{
-};
-
-SysLanguage::SysLanguage() = default;
-SysLanguage::~SysLanguage() = default;
-
-Language SysLanguage::getLanguage() const
-{
-    return Language(fake().language);
-}
+UNRECORDED(Language, SysLanguage::getLanguage() const, Language(fake().language))
 
 QMap<int, QString> SysLanguage::getLanguageNames() const
 {
     return {{0, QStringLiteral("English")}, {4, QStringLiteral("Lingua")}};
 }
 
-void SysLanguage::setLanguage(Language language, bool save)
-{
-    record("setLanguage", int(language), save);
-}
+TOLD(SysLanguage::setLanguage, (Language language, bool save), (int(language), save))
 
-class DictDef::Private
-{
-};
-
-DictDef::DictDef() = default;
-DictDef::~DictDef() = default;
+WITHOUT_PRIVATE_STATE(DictDef)
 
 void DictDef::retranslate()
 {
@@ -441,26 +286,18 @@ void DictDef::retranslate()
         question += QLatin1Char('\'');
 }
 
-QString DictDef::alertTitle(AlertTitle title) const
-{
-    return QStringLiteral("title %1").arg(title);
-}
+UNRECORDED(QString, DictDef::alertTitle(AlertTitle title) const, QStringLiteral("title %1").arg(title))
 
 const QMap<int, QString> &DictDef::securityQuestions() const
 {
     return fake().securityQuestions;
 }
 
-Customization::Customization() = default;
-Customization::~Customization() = default;
+STATELESS(Customization)
 
-const CustomizeInfo &Customization::getCustomizeInfo() const
-{
-    return fake().customization;
-}
+UNRECORDED(const CustomizeInfo &, Customization::getCustomizeInfo() const, fake().customization)
 
-SystemAssistant::SystemAssistant() = default;
-SystemAssistant::~SystemAssistant() = default;
+STATELESS(SystemAssistant)
 
 void SystemAssistant::messageAlert(const QString &title, const QString &alertText)
 {
@@ -478,48 +315,42 @@ ZSINGLETON_DEFINE(kelvra_saas::SaasWorker)
 
 namespace kelvra_saas {
 
-class LoginWorker::Private
+template <typename Callback, typename... Rest>
+void keepCall(const QString &requestId, const Callback &callback, const Rest &...rest)
 {
-};
-
-LoginWorker::LoginWorker() = default;
-LoginWorker::~LoginWorker() = default;
-
-void LoginWorker::tryAutoLogin(const QString &requestId, const QString &account, const AccountCallback &callback)
-{
-    record("tryAutoLogin", account);
-    fake().autoLogins.append({requestId, account, QString(), callback});
+    fake().cloudCalls.append({requestId, [=](const Response &response) { callback(response, rest...); }});
 }
 
-void LoginWorker::tryAutoLogin(const QString &requestId, const QString &account, const QString &password,
-                               const AccountCallback &callback)
-{
-    record("tryAutoLogin", account, password);
-    fake().autoLogins.append({requestId, account, password, callback});
-}
+WITHOUT_PRIVATE_STATE(LoginWorker)
 
-bool LoginWorker::cancelAccountAutoLogin(const QString &account)
-{
-    record("cancelAccountAutoLogin", account);
-    return true;
-}
+DONE(LoginWorker::login, (const LoginReq &request, const LoginCallback &callback),
+     (request.account, request.password, request.verificationCode, request.loginType),
+     keepCall(request.requestId, callback, LoginErrorInfo{QString(), 3, 2, 600, 30}))
+DONE(LoginWorker::getVerificationCode, (const VerificationCodeReq &request, const ResponseCallback &callback),
+     (request.account, request.purpose, request.accountKind), keepCall(request.requestId, callback))
+DONE(LoginWorker::getAccountAfterScanQRCode, (const QString &requestId, const AccountCallback &callback), (),
+     keepCall(requestId, callback, QStringLiteral("13912345678")))
+DONE(LoginWorker::getLoginQRCode, (const QString &requestId, const QRCodeCallback &callback), (),
+     fake().qrCodeRequests.append({requestId, QString(), callback}))
+DONE(LoginWorker::checkLoginQRCodeStatus,
+     (const QString &requestId, const QString &qrCodeId, const QRCodeStatusCallback &callback), (qrCodeId),
+     fake().qrCodeStatusQueries.append({requestId, qrCodeId, callback}))
+DONE(LoginWorker::checkLoginQRCodeResult,
+     (const QString &requestId, const QString &qrCodeId, const ResponseCallback &callback), (qrCodeId),
+     fake().qrCodeResultQueries.append({requestId, qrCodeId, callback}))
+DONE(LoginWorker::tryAutoLogin, (const QString &requestId, const QString &account, const AccountCallback &callback),
+     (account), fake().autoLogins.append({requestId, account, QString(), callback}))
+DONE(LoginWorker::tryAutoLogin,
+     (const QString &requestId, const QString &account, const QString &password, const AccountCallback &callback),
+     (account, password), fake().autoLogins.append({requestId, account, password, callback}))
+ANSWERED(bool, LoginWorker::cancelAccountAutoLogin, (const QString &account), (account), true)
+UNRECORDED(QString, LoginWorker::getRecentlyLoggedInAccount(), fake().recentAccount)
 
-QString LoginWorker::getRecentlyLoggedInAccount()
-{
-    return fake().recentAccount;
-}
+WITHOUT_PRIVATE_STATE(SaasWorker)
 
-class SaasWorker::Private
-{
-};
-
-SaasWorker::SaasWorker() = default;
-SaasWorker::~SaasWorker() = default;
-
-QString saasErrorMsg(int code, int subCode)
-{
-    return QStringLiteral("cloud error %1/%2").arg(code).arg(subCode);
-}
+UNRECORDED(int, SaasWorker::getVerificationCodeRemainingSecs() const, fake().resendSeconds)
+DONE(SaasWorker::resetVerificationCodeRemainingSecs, (int seconds), (seconds), fake().resendSeconds = seconds)
+UNRECORDED(QString, saasErrorMsg(int code, int subCode), QStringLiteral("cloud error %1/%2").arg(code).arg(subCode))
 
 } // namespace kelvra_saas
 

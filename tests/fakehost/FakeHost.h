@@ -39,6 +39,23 @@ struct FakeHost
         kelvra_saas::LoginWorker::AccountCallback answer;
     };
 
+    template <typename Callback>
+    struct QRCodeCall
+    {
+        QString requestId;
+        QString qrCodeId; // empty for a call that asks for a code
+        Callback answer;
+    };
+
+    /** A call of a cloud page. Its answer tells of account 13912345678, with 3 errors in 600 s and 2 attempts left. */
+    struct CloudCall
+    {
+        QString requestId;
+        kelvra_saas::LoginWorker::ResponseCallback callback;
+
+        void answer(int code) const { callback({requestId, code, 8, {}}); }
+    };
+
     /** The one fake host of the program. */
     static FakeHost &get();
     /** Their ids are 0, 10 and so on, so that no index passes for one. */
@@ -62,7 +79,8 @@ struct FakeHost
     bool lockKnown = true; // getLockInfo answers true
     bool locked = false;
     int lockSeconds = 0;
-    bool updatesSucceed = true; // updateLockInfo stores and answers true
+    bool updatesSucceed = true;        // updateLockInfo stores and answers true
+    bool gestureUpdatesSucceed = true; // updateUserGesture stores, it and deleteUserGesture answer true
     bool addSuperUserSucceeds = true;
     bool resetUserPwdSucceeds = true;
     bool sameEnvironment = true;
@@ -87,6 +105,11 @@ struct FakeHost
     // Cloud library
     QString recentAccount;
     QVector<AutoLoginCall> autoLogins;
+    QVector<CloudCall> cloudCalls;
+    int resendSeconds = 0; // until another code may be asked for
+    QVector<QRCodeCall<kelvra_saas::LoginWorker::QRCodeCallback>> qrCodeRequests;
+    QVector<QRCodeCall<kelvra_saas::LoginWorker::QRCodeStatusCallback>> qrCodeStatusQueries;
+    QVector<QRCodeCall<kelvra_saas::LoginWorker::ResponseCallback>> qrCodeResultQueries;
 
     // What would block
     QString chosenFile;

@@ -1,0 +1,63 @@
+#pragma once
+
+#include "host/ZCommon/ZLineEdit.h"
+#include "login/local/FieldStyle.h"
+
+#include <QString>
+#include <QWidget>
+
+class QEvent;
+class QKeyEvent;
+class QPushButton;
+
+namespace kelvra_saas {
+struct Response;
+}
+
+/**
+ * @file
+ * What the pages of cloud login share.
+ */
+
+namespace kelvra_login {
+
+class UserNameWt;
+
+/**
+ * Makes `field` the phone number field of `page`: it takes eleven digits, holds the account that logged in last at
+ * first, and is kept in step with the fields of the other pages.
+ */
+void setUpPhoneField(QWidget *page, UserNameWt *field);
+/** Sets the field's placeholder, in the language in force. */
+void setPhonePlaceholder(UserNameWt *field);
+/** Whether the field holds a number of the right length; if not, a tip at the field says so. */
+bool checkPhoneNumber(UserNameWt *field);
+
+/** Highlights `field` while it has the keyboard focus. `page` disconnects its line edit before the form goes. */
+template <typename Field>
+void followFocus(QWidget *page, Field *field)
+{
+    QObject::connect(field->lineEdit(), &ZCOMMON::ZLineEdit::signalFocusEvent, page,
+                     [field](bool focused) { field->setState(focused ? FieldFocused : FieldNormal); });
+}
+
+/** Shows `text` as a tool tip at the top left corner of `field`. */
+void showTip(QWidget *field, const QString &text);
+
+/** Marks the login button of a page, and says on it, that a login is under way or not. */
+void setLoggingIn(QPushButton *loginBt, bool loggingIn);
+bool isLoggingIn(const QPushButton *loginBt);
+
+/** The text of the cloud for a call that failed. */
+QString errorText(const kelvra_saas::Response &response);
+
+/** Whether the left mouse button goes up. */
+bool isLeftRelease(const QEvent *event);
+
+/**
+ * Return and Enter click the page's login button, once for each press of the key, while the page is visible. The
+ * click may cost the page its life: false when it is gone.
+ */
+bool loginOnEnter(QWidget *page, QPushButton *loginBt, const QKeyEvent *event);
+
+} // namespace kelvra_login

@@ -1,0 +1,134 @@
+#include "login/cloud/SaasPwdLoginWt.h"
+
+#include "host/kelvra_base/CapsLockToolTipHandler.h"
+#include "host/kelvra_saas/LoginWorker.h"
+#include "login/cloud/CloudPageParts.h"
+#include "login/frame/Alerts.h"
+#include "login/frame/CloudAnswer.h"
+#include "login/frame/LoginSignals.h"
+#include "login/frame/LoginWorker.h"
+#include "ui_SaasPwdLoginWt.h"
+
+#include <QRegExpValidator>
+
+using kelvra_saas::LoginErrorInfo;
+using kelvra_saas::Response;
+
+namespace kelvra_login {
+
+namespace {
+
+constexpr int minPasswordLength = 8;
+
+// Result codes with a road of their own
+constexpr int nearLockCode = 2231;
+constexpr int lockedCode = 2203;
+constexpr int insecureTerminalCode = 2229;
+
+} // namespace
+
+SaasPwdLoginWt::SaasPwdLoginWt(QWidget *parent)
+    : QWidget(parent)
+    , ui(std::make_unique<Ui::SaasPwdLoginWt>())
+{
+    ui->setupUi(this);
+    QLineEdit *password = ui->pwdWt->lineEdit();
+    capsLockHandler = new kelvra_base::CapsLockToolTipHandler(this, password, ui->pwdWt);
+    setUpPhoneField(this, ui->userWt);
+    password->setValidator(new QRegExpValidator(QRegExp(QStringLiteral("^\\S+$")), password));
+    followFocus(this, ui->pwdWt);
+    if (account().isEmpty())
+        setFocusProxy(ui->userWt);
+    else
+        setFocusProxy(ui->pwdWt);
+    ui->verificationCodeLogin->installEventFilter(this);
+    ui->QRCodeLogin->installEventFilter(this);
+    connect(ui->loginBt, &QPushButton::clicked, this, &SaasPwdLoginWt::login);
+}
+
+SaasPwdLoginWt::~SaasPwdLoginWt()
+{
+    // A field that dies with the focus still tells that it has lost it, when the form is gone already.
+    ui->userWt->lineEdit()->disconnect(this);
+    ui->pwdWt->lineEdit()->disconnect(this);
+}
+
+QString SaasPwdLoginWt::account() const
+{
+    return ui->userWt->text();
+}
+
+void SaasPwdLoginWt::login()
+{
+    if (isLoggingIn(ui->loginBt) || !checkPhoneNumber(ui->userWt))
+        return;
+    const QString password = ui->pwdWt->text();
+    if (password.size() < minPasswordLength) {
+        showTip(ui->pwdWt, tr("Invalid password"));
+        return;
+    }
+
+    kelvra_saas::LoginReq request;
+    request.requestId = newRequestId();
+    request.account = account();
+    request.password = password;
+    setLoggingIn(ui->loginBt, true);
+    kelvra_saas::LoginWorker::_instance().login(
+        request,
+        answerTo(request.requestId, this, [this, request](const Response &response, const LoginErrorInfo &info) {
+            loginAnswered(request.account, response, info);
+        }));
+}
+
+void SaasPwdLoginWt::loginAnswered(const QString &account, const Response &response, const LoginErrorInfo &info)
+{
+    const QPointer<SaasPwdLoginWt> self(this);
+    switch (response.code) {
+    case kelvra_saas::successCode:
+        LoginWorker::_instance().saasLoginSuccess(account, ui->autoLogin->isChecked());
+        return;
+    case insecureTerminalCode:
+        emit LoginSignals::_instance().signalSaasLoginEvent(SaasVerificationCodeLogin, {account});
+        warningAlert(tr("It is currently a non secure terminal,Please log in as a verification code"));
+        break;
+    case nearLockCode:
+    case lockedCode:
+        LoginWorker::_instance().showLockAlert(info);
+        break;
+    default:
+        warningAlert(tr("Nimbra account login failure:%1").arg(errorText(response)));
+    }
+    // The alert may have outlived this page.
+    if (self)
+        setLoggingIn(ui->loginBt, false);
+}
+
+bool SaasPwdLoginWt::eventFilter(QObject *watched, QEvent *event)
+{
+    if (isLeftRelease(event)) {
+        auto &hub = LoginSignals::_instance();
+        if (watched == ui->verificationCodeLogin)
+            emit hub.signalSaasLoginEvent(SaasVerificationCodeLogin, {account()});
+        else if (watched == ui->QRCodeLogin)
+            emit hub.signalSaasLoginEvent(SaasScanQRCodeLogin, {account()});
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void SaasPwdLoginWt::keyPressEvent(QKeyEvent *event)
+{
+    if (loginOnEnter(this, ui->loginBt, event))
+        QWidget::keyPressEvent(event);
+}
+
+void SaasPwdLoginWt::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        ui->retranslateUi(this);
+        setPhonePlaceholder(ui->userWt);
+        setLoggingIn(ui->loginBt, isLoggingIn(ui->loginBt));
+    }
+    QWidget::changeEvent(event);
+}
+
+} // namespace kelvra_login

@@ -1,0 +1,277 @@
+#include "fakehost/Brackets.h"
+#include "login/cloud/QRCodeLoginPanel.h"
+
+#include <QLabel>
+#include <QMovie>
+#include <QtTest>
+
+#include <array>
+
+using namespace kelvra_login;
+
+namespace {
+
+const QString scan = "1 Nimbra App Code scanning login";
+const QString masked = "|mask|refreshBt";
+// Black on the left, white on the right, with percent signs as a data URI may have them
+const QString picture = "data:image/x-portable-bitmap,P1%0A%23%2B%0A2%202%201%200%201%200";
+FakeHost &host = FakeHost::get();
+
+/**
+ * Answers the last call of its kind: "code", "result" or a status, in any order and as often as wanted; after "!" as
+ * a failure, after "?" under a foreign id.
+ */
+void answer(const QString &answers, const QString &codeId = "code", int validitySeconds = 600)
+{
+    for (QString text : answers.split(' ')) {
+        const bool foreign = text.startsWith('?');
+        const int code = text.contains('!') ? 4711 : kelvra_saas::successCode;
+        const QString kind = text.remove('?').remove('!');
+        const auto give = [foreign, code](const auto call, const auto &...more) {
+            call.answer({foreign ? "foreign" : call.requestId, code, 7, QString()}, more...);
+        };
+        if (kind == "code")
+            give(host.qrCodeRequests.last(), kelvra_saas::LoginQRCodeInfo{codeId, picture, validitySeconds});
+        else if (kind == "result")
+            give(host.qrCodeResultQueries.last());
+        else
+            give(host.qrCodeStatusQueries.last(), kind.toInt());
+    }
+}
+
+QString inBrackets(QString look)
+{
+    return look.replace(QRegularExpression("^(\\d) ([^|]*)"), "\\1 [\\2]");
+}
+
+} // namespace
+
+class TestQRPanel : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        host.reset();
+        open();
+    }
+
+    void cleanup() { panel.reset(); }
+
+    void firstShowFetchesACode()
+    {
+        panel = std::make_unique<QRCodeLoginPanel>(nullptr);
+        const QMovie *movie = label("waitingLabel")->movie();
+        host.calls.clear();
+        for (const bool shown : {false, true, false, true}) {
+            panel->setVisible(shown);
+            QCOMPARE(movie->state(), shown ? QMovie::Running : QMovie::Paused);
+        }
+        QCOMPARE(host.calls, QStringList("getLoginQRCode()"));
+        QCOMPARE(look(), scan + "|waitingLabel");
+        QCOMPARE(translatedLook(), inBrackets(scan + "|waitingLabel"));
+        answer("code");
+        QCOMPARE(look(), scan);
+        QCOMPARE(movie->state(), QMovie::Paused);
+        QCOMPARE(label("QRCode")->text(), "<img src=\"" + picture + "\" width=\"220\" heigh=\"220\" />");
+        QCOMPARE(codeColour(40), QColor(Qt::black));
+        QCOMPARE(codeColour(180), QColor(Qt::white));
+        panel->setQRCodeSize(178);
+        answer("code");
+        QVERIFY(label("QRCode")->text().endsWith(" width=\"178\" heigh=\"178\" />"));
+    }
+
+    void answers()
+    {
+        const QVector<std::array<QString, 3>> rows{
+            {"2001", scan, ""},
+            {"2002", "4 Scanned, confirming", ""},
+            {"2003", "2 QR Code Invalid" + masked, ""},
+            {"2005", "5 Scanned, cancel login" + masked, ""},
+            {"2006", "6 Illegal operation" + masked, ""},
+            {"2007", "7 Illegal ip" + masked, ""},
+            {"!code", "3 Get QR Code Failure" + masked, "Get login QR code failure:cloud error 4711/7"},
+            {"!2004", "8 Check Status Failure" + masked, "Check login QR code status failure:cloud error 4711/7"},
+            {"2004 !result", "0 QR Code Login Failure" + masked,
+             "Check QR code login result failure:cloud error 4711/7"}};
+        poll();
+        for (const auto &[given, expected, alert] : rows) {
+            QString duringAlert;
+            host.whileAlertIsOpen = [&] { duringAlert = look(); };
+            host.alerts.clear();
+            panel->refreshQRCode();
+            answer("code " + given);
+            QCOMPARE(look(), expected);
+            QCOMPARE(duringAlert, alert.isEmpty() ? "" : expected);
+            QCOMPARE(host.alerts.value(0).second, alert);
+            QCOMPARE(translatedLook(), inBrackets(expected));
+            QVERIFY(label("QRCode")->text().contains(picture));
+        }
+        host.calls.clear();
+        panel->hide();
+        panel->show();
+        QTest::qWait(1200);
+        QCOMPARE(host.calls, QStringList()); // nothing renews a refused code by itself
+        QTest::mouseClick(part("refreshBt"), Qt::LeftButton);
+        QCOMPARE(host.calls, QStringList("getLoginQRCode()"));
+        QCOMPARE(look(), QString("0 QR Code Login Failure|waitingLabel"));
+        for (const char *last : {"!code", "!2001", "2004 !result"}) {
+            open();
+            poll();
+            host.whileAlertIsOpen = [&] { panel.reset(); };
+            answer(last);
+            QVERIFY(!panel);
+        }
+    }
+
+    void strayAnswers()
+    {
+        const QSignalSpy success(panel.get(), &QRCodeLoginPanel::signalScanQRCodeLoginSuccess);
+        answer("?code ?!code");
+        QCOMPARE(look(), scan + "|waitingLabel");
+        poll();
+        answer("?2003 ?!2003");
+        QTest::qWait(1300);
+        QCOMPARE(host.qrCodeStatusQueries.size(), 1); // they have not ended the query
+        answer("2001 2001");
+        QTRY_COMPARE(host.qrCodeStatusQueries.size(), 2);
+        host.whileAlertIsOpen = [&] {
+            panel->refreshQRCode();
+            answer("code");
+            QTest::qWait(1300);
+        };
+        answer("!2001");
+        QCOMPARE(host.qrCodeStatusQueries.size(), 2); // the alert's end is the query's
+        QTRY_COMPARE(host.qrCodeStatusQueries.size(), 3);
+        answer("2004");
+        QTest::qWait(1200);
+        QCOMPARE(host.calls.last(), QString("checkLoginQRCodeResult(code)"));
+        answer("?result ?!result");
+        QCOMPARE(success.size(), 0);
+        answer("result");
+        QCOMPARE(success.size(), 1);
+        QCOMPARE(look(), scan);
+        panel.reset();
+        answer("!code !2003 !result");
+        QCOMPARE(host.alerts.size(), 1);
+
+        open();
+        std::make_unique<QRCodeLoginPanel>(nullptr).reset(); // takes over, and is gone
+        answer("code");
+        QCOMPARE(look(), scan + "|waitingLabel");
+    }
+
+    void pollsWhileVisible()
+    {
+        panel->showMinimized();
+        answer("code", "minimised");
+        const auto minimised = std::move(panel);
+        open();
+        panel->hide();
+        answer("code", "hidden");
+        const auto hidden = std::move(panel);
+        open();
+        answer("code");
+        QTimer service;
+        connect(&service, &QTimer::timeout, this, [] {
+            if (!host.qrCodeStatusQueries.isEmpty())
+                answer("2001");
+        });
+        service.start(100);
+        QTest::qWait(3300);
+        const QStringList queries = host.callsOf({"checkLoginQRCodeStatus"});
+        QVERIFY2(queries.size() == 2 || queries.size() == 3, qPrintable(queries.join(' ')));
+        QCOMPARE(queries.count("checkLoginQRCodeStatus(code)"), queries.size());
+        panel->hide();
+        hidden->show();
+        QTRY_COMPARE(host.calls.last(), QString("checkLoginQRCodeStatus(hidden)"));
+        QCOMPARE(host.callsOf({"checkLoginQRCodeStatus"}).size(), queries.size() + 1);
+        QCOMPARE(host.qrCodeRequests.size(), 3);
+    }
+
+    void validityRunsOut()
+    {
+        answer("code", "old", 1);
+        panel->refreshQRCode();
+        answer("code");
+        QTRY_COMPARE(look(), "2 QR Code Invalid" + masked); // the old code's time, at the new one's cost
+    }
+
+    void overlaysFollowTheCode()
+    {
+        const QWidget *code = label("QRCode");
+        const auto changes = {+[](QRCodeLoginPanel *p) { p->resize(600, 500); },
+                              +[](QRCodeLoginPanel *p) { p->setQRCodeSize(177); },
+                              +[](QRCodeLoginPanel *p) { p->setLayoutSpacing(450); }};
+        for (const auto change : changes) {
+            const QPoint before = code->pos();
+            change(panel.get());
+            QTRY_VERIFY(code->pos() != before);
+            for (const QWidget *overlay : {part("waitingLabel"), part("refreshBt")}) {
+                const QSize around = code->size() - overlay->size();
+                QCOMPARE(overlay->pos(), code->pos() + QPoint(around.width() / 2, around.height() / 2));
+            }
+            QCOMPARE(part("mask")->pos(), code->pos());
+        }
+    }
+
+    void maskLetsAQuarterThrough()
+    {
+        answer("code !code");
+        QCOMPARE(codeColour(40), QColor(Qt::black)); // no brush over rich text
+        QPixmap red(220, 220);
+        red.fill(Qt::red);
+        label("QRCode")->setPixmap(red);
+        answer("!code");
+        const QColor seen = codeColour(40);
+        QVERIFY2(qAbs(seen.red() - 0.75 * 160 - 0.25 * 255) < 2, qPrintable(seen.name()));
+        QVERIFY2(qAbs(seen.green() - 0.75 * 160) < 2, qPrintable(seen.name()));
+    }
+
+private:
+    void open()
+    {
+        panel = std::make_unique<QRCodeLoginPanel>(nullptr);
+        panel->show();
+        QVERIFY(QTest::qWaitForWindowExposed(panel.get()));
+    }
+
+    /** Shows a code and waits until the panel asks what has become of it. */
+    void poll()
+    {
+        answer("code");
+        host.calls.clear();
+        QTRY_COMPARE(host.calls, QStringList("checkLoginQRCodeStatus(code)"));
+    }
+
+    QLabel *label(const char *name) const { return panel->findChild<QLabel *>(name); }
+    QWidget *part(const char *name) const { return panel->findChild<QWidget *>(name); }
+
+    /** The title's id, the title, and what lies over the code. */
+    QString look() const
+    {
+        QString look = label("QRCodeTitle")->property("title_id").toString() + ' ' + label("QRCodeTitle")->text();
+        for (const char *over : {"waitingLabel", "mask", "refreshBt"})
+            look += part(over)->isVisible() ? QString("|") + over : QString();
+        return look;
+    }
+
+    QString translatedLook() const
+    {
+        const Brackets brackets;
+        return look();
+    }
+
+    /** What is seen of the code `x` pixels from its left edge, below the refresh button. */
+    QColor codeColour(int x) const
+    {
+        return panel->grab().toImage().pixelColor(label("QRCode")->pos() + QPoint(x, 190));
+    }
+
+    std::unique_ptr<QRCodeLoginPanel> panel;
+};
+
+QTEST_MAIN(TestQRPanel)
+
+#include "tst_qrpanel.moc"
