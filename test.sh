@@ -7,7 +7,7 @@ cd "$(dirname "$0")"
 
 preset=${PRESET:-dev}
 # shellcheck disable=SC2086
-install_missing $build_packages clang-format
+install_missing $build_packages clang-format zbar-tools
 
 say "Checking the format"
 find host login client tests -name '*.h' -o -name '*.cpp' | xargs clang-format --dry-run --Werror

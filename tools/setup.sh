@@ -6,7 +6,7 @@ say() {
 
 # What a build needs; the fonts are those that the client puts in place of "microsoft yahei".
 build_packages="g++ cmake ninja-build pkg-config qtbase5-dev qttools5-dev qttools5-dev-tools libsodium-dev
-    libqt5sql5-sqlite fonts-open-sans fonts-wqy-microhei"
+    libqrencode-dev libqt5sql5-sqlite fonts-open-sans fonts-wqy-microhei"
 
 # install_missing PACKAGE...: installs what is not there yet, or names it and stops.
 install_missing() {
