@@ -78,6 +78,7 @@ private slots:
         QCOMPARE(codeColour(40), QColor(Qt::black));
         QCOMPARE(codeColour(180), QColor(Qt::white));
         panel->setQRCodeSize(178);
+        panel->refreshQRCode();
         answer("code");
         QVERIFY(label("QRCode")->text().endsWith(" width=\"178\" heigh=\"178\" />"));
     }
@@ -95,16 +96,16 @@ private slots:
             {"!2004", "8 Check Status Failure" + masked, "Check login QR code status failure:cloud error 4711/7"},
             {"2004 !result", "0 QR Code Login Failure" + masked,
              "Check QR code login result failure:cloud error 4711/7"}};
-        poll();
         for (const auto &[given, expected, alert] : rows) {
             QString duringAlert;
             host.whileAlertIsOpen = [&] { duringAlert = look(); };
             host.alerts.clear();
             panel->refreshQRCode();
-            answer("code " + given);
+            answerTwice(given);
             QCOMPARE(look(), expected);
             QCOMPARE(duringAlert, alert.isEmpty() ? "" : expected);
             QCOMPARE(host.alerts.value(0).second, alert);
+            QVERIFY(host.alerts.size() < 2);
             QCOMPARE(translatedLook(), inBrackets(expected));
             QVERIFY(label("QRCode")->text().contains(picture));
         }
@@ -118,9 +119,8 @@ private slots:
         QCOMPARE(look(), QString("0 QR Code Login Failure|waitingLabel"));
         for (const char *last : {"!code", "!2001", "2004 !result"}) {
             open();
-            poll();
             host.whileAlertIsOpen = [&] { panel.reset(); };
-            answer(last);
+            answerTwice(last);
             QVERIFY(!panel);
         }
     }
@@ -144,12 +144,13 @@ private slots:
         answer("!2001");
         QCOMPARE(host.qrCodeStatusQueries.size(), 2); // the alert's end is the query's
         QTRY_COMPARE(host.qrCodeStatusQueries.size(), 3);
-        answer("2004");
+        host.calls.clear();
+        answer("2004 2004");
         QTest::qWait(1200);
-        QCOMPARE(host.calls.last(), QString("checkLoginQRCodeResult(code)"));
+        QCOMPARE(host.calls, QStringList("checkLoginQRCodeResult(code)"));
         answer("?result ?!result");
         QCOMPARE(success.size(), 0);
-        answer("result");
+        answer("result result !result");
         QCOMPARE(success.size(), 1);
         QCOMPARE(look(), scan);
         panel.reset();
@@ -218,11 +219,14 @@ private slots:
 
     void maskLetsAQuarterThrough()
     {
-        answer("code !code");
+        answer("code");
+        panel->refreshQRCode();
+        answer("!code");
         QCOMPARE(codeColour(40), QColor(Qt::black)); // no brush over rich text
         QPixmap red(220, 220);
         red.fill(Qt::red);
         label("QRCode")->setPixmap(red);
+        panel->refreshQRCode();
         answer("!code");
         const QColor seen = codeColour(40);
         QVERIFY2(qAbs(seen.red() - 0.75 * 160 - 0.25 * 255) < 2, qPrintable(seen.name()));
@@ -243,6 +247,15 @@ private:
         answer("code");
         host.calls.clear();
         QTRY_COMPARE(host.calls, QStringList("checkLoginQRCodeStatus(code)"));
+    }
+
+    /** What comes twice counts once. A code is shown first, unless it is refused. */
+    void answerTwice(const QString &answers)
+    {
+        if (answers != "!code")
+            poll();
+        answer(answers);
+        answer(answers);
     }
 
     QLabel *label(const char *name) const { return panel->findChild<QLabel *>(name); }

@@ -2,6 +2,68 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN">
 <context>
+    <name>kelvra_login::AddGesturePwdDlg</name>
+    <message>
+        <source>Please set your gesture password to log in</source>
+        <translation>请设置用于登录的手势密码</translation>
+    </message>
+    <message>
+        <source>First input gesture</source>
+        <translation>第一次绘制手势</translation>
+    </message>
+    <message>
+        <source>Second input gesture</source>
+        <translation>第二次绘制手势</translation>
+    </message>
+    <message>
+        <source>Too simple gesture:at least 4 points</source>
+        <translation>手势过于简单：至少连接 4 个点</translation>
+    </message>
+    <message>
+        <source>Successfully set gesture password</source>
+        <translation>手势密码设置成功</translation>
+    </message>
+    <message>
+        <source>Add Gesture Password Login</source>
+        <translation>设置手势密码登录</translation>
+    </message>
+    <message>
+        <source>The gesture passwords entered twice are inconsistent</source>
+        <translation>两次绘制的手势密码不一致</translation>
+    </message>
+    <message>
+        <source>The gesture password is too simple,you should connect at least 4 points</source>
+        <translation>手势密码过于简单，请至少连接 4 个点</translation>
+    </message>
+    <message>
+        <source>Failed to update gesture password</source>
+        <translation>手势密码修改失败</translation>
+    </message>
+    <message>
+        <source>Failed to add gesture password</source>
+        <translation>手势密码设置失败</translation>
+    </message>
+</context>
+<context>
+    <name>kelvra_login::CloudPageParts</name>
+    <message>
+        <source>Phone Number</source>
+        <translation>手机号</translation>
+    </message>
+    <message>
+        <source>Illegal mobile phone number</source>
+        <translation>手机号不合法</translation>
+    </message>
+    <message>
+        <source>Logging in...</source>
+        <translation>正在登录...</translation>
+    </message>
+    <message>
+        <source>Login</source>
+        <translation>登录</translation>
+    </message>
+</context>
+<context>
     <name>kelvra_login::CreateSuperUserWt</name>
     <message>
         <source>CreateSuperUserWt</source>
@@ -50,6 +112,51 @@
     <message>
         <source>Confirm Password</source>
         <translation>确认密码</translation>
+    </message>
+</context>
+<context>
+    <name>kelvra_login::GestureLoginWt</name>
+    <message>
+        <source>GestureLoginWt</source>
+        <translation>手势登录</translation>
+    </message>
+    <message>
+        <source>Welcome to login</source>
+        <translation>欢迎登录</translation>
+    </message>
+    <message>
+        <source>Automatic Logon</source>
+        <translation>自动登录</translation>
+    </message>
+    <message>
+        <source>Pwd Login</source>
+        <translation>密码登录</translation>
+    </message>
+    <message>
+        <source>gesture error, a maximum of %1 failures are allowed, now failed %2 times</source>
+        <translation>手势错误，最多允许失败 %1 次，现已失败 %2 次</translation>
+    </message>
+    <message>
+        <source>Failed:%1 times, Remaining:%2 times</source>
+        <translation>已失败 %1 次，还可尝试 %2 次</translation>
+    </message>
+    <message>
+        <source>Account %1 not exist</source>
+        <translation>账号 %1 不存在</translation>
+    </message>
+</context>
+<context>
+    <name>kelvra_login::GesturePanel</name>
+    <message>
+        <source>GesturePanel</source>
+        <translation>手势面板</translation>
+    </message>
+</context>
+<context>
+    <name>kelvra_login::GestureVerifyDlg</name>
+    <message>
+        <source>Gesture Verify</source>
+        <translation>手势密码验证</translation>
     </message>
 </context>
 <context>
@@ -279,6 +386,61 @@
     </message>
 </context>
 <context>
+    <name>kelvra_login::QRCodeLoginPanel</name>
+    <message>
+        <source>QRCodeLoginPanel</source>
+        <translation>二维码登录</translation>
+    </message>
+    <message>
+        <source>Nimbra App Code scanning login</source>
+        <translation>Nimbra App 扫码登录</translation>
+    </message>
+    <message>
+        <source>Get QR Code Failure</source>
+        <translation>获取二维码失败</translation>
+    </message>
+    <message>
+        <source>Get login QR code failure:%1</source>
+        <translation>获取登录二维码失败：%1</translation>
+    </message>
+    <message>
+        <source>QR Code Invalid</source>
+        <translation>二维码已失效</translation>
+    </message>
+    <message>
+        <source>Check Status Failure</source>
+        <translation>查询扫码状态失败</translation>
+    </message>
+    <message>
+        <source>Check login QR code status failure:%1</source>
+        <translation>查询登录二维码状态失败：%1</translation>
+    </message>
+    <message>
+        <source>Scanned, confirming</source>
+        <translation>已扫码，等待手机确认</translation>
+    </message>
+    <message>
+        <source>Scanned, cancel login</source>
+        <translation>已扫码，登录已取消</translation>
+    </message>
+    <message>
+        <source>Illegal operation</source>
+        <translation>非法操作</translation>
+    </message>
+    <message>
+        <source>Illegal ip</source>
+        <translation>非法 IP 地址</translation>
+    </message>
+    <message>
+        <source>QR Code Login Failure</source>
+        <translation>二维码登录失败</translation>
+    </message>
+    <message>
+        <source>Check QR code login result failure:%1</source>
+        <translation>查询二维码登录结果失败：%1</translation>
+    </message>
+</context>
+<context>
     <name>kelvra_login::ResetSuperUserPwdWt</name>
     <message>
         <source>ResetSuperUserPwdWt</source>
@@ -323,6 +485,131 @@
     <message>
         <source>Confirm Password</source>
         <translation>确认密码</translation>
+    </message>
+</context>
+<context>
+    <name>kelvra_login::SaasPwdLoginWt</name>
+    <message>
+        <source>SaasPwdLoginWt</source>
+        <translation>云账号密码登录</translation>
+    </message>
+    <message>
+        <source>Automatic Logon</source>
+        <translation>自动登录</translation>
+    </message>
+    <message>
+        <source>PIN</source>
+        <translation>验证码登录</translation>
+    </message>
+    <message>
+        <source>QR Code</source>
+        <translation>扫码登录</translation>
+    </message>
+    <message>
+        <source>Login</source>
+        <translation>登录</translation>
+    </message>
+    <message>
+        <source>Invalid password</source>
+        <translation>密码无效</translation>
+    </message>
+    <message>
+        <source>It is currently a non secure terminal,Please log in as a verification code</source>
+        <translation>当前为非安全终端，请使用验证码登录</translation>
+    </message>
+    <message>
+        <source>Nimbra account login failure:%1</source>
+        <translation>Nimbra 账号登录失败：%1</translation>
+    </message>
+</context>
+<context>
+    <name>kelvra_login::SaasScanQRCodeLoginWt</name>
+    <message>
+        <source>SaasScanQRCodeLoginWt</source>
+        <translation>云账号扫码登录</translation>
+    </message>
+    <message>
+        <source>Automatic Logon</source>
+        <translation>自动登录</translation>
+    </message>
+    <message>
+        <source>PIN</source>
+        <translation>验证码登录</translation>
+    </message>
+    <message>
+        <source>PWD</source>
+        <translation>密码登录</translation>
+    </message>
+    <message>
+        <source>Get logged in account failure:%1</source>
+        <translation>获取已登录账号失败：%1</translation>
+    </message>
+</context>
+<context>
+    <name>kelvra_login::SaasVerificationCodeLoginWt</name>
+    <message>
+        <source>SaasVerificationCodeLoginWt</source>
+        <translation>云账号验证码登录</translation>
+    </message>
+    <message>
+        <source>PIN</source>
+        <translation>验证码</translation>
+    </message>
+    <message>
+        <source>Get PIN</source>
+        <translation>获取验证码</translation>
+    </message>
+    <message>
+        <source>Automatic Logon</source>
+        <translation>自动登录</translation>
+    </message>
+    <message>
+        <source>PWD</source>
+        <translation>密码登录</translation>
+    </message>
+    <message>
+        <source>QR Code</source>
+        <translation>扫码登录</translation>
+    </message>
+    <message>
+        <source>Login</source>
+        <translation>登录</translation>
+    </message>
+    <message>
+        <source>60S</source>
+        <translation>60 秒</translation>
+    </message>
+    <message>
+        <source>Get verificaion code success, please check the verification code on your mobile phone</source>
+        <translation>验证码获取成功，请在手机上查收</translation>
+    </message>
+    <message>
+        <source>Get verificaion code failed:invalid mobile number(%1)</source>
+        <translation>验证码获取失败：手机号无效（%1）</translation>
+    </message>
+    <message>
+        <source>Get verificaion code failed:%1</source>
+        <translation>验证码获取失败：%1</translation>
+    </message>
+    <message>
+        <source>Get Verification Code</source>
+        <translation>获取验证码</translation>
+    </message>
+    <message>
+        <source>%1S</source>
+        <translation>%1 秒</translation>
+    </message>
+    <message>
+        <source>Invalid verification code</source>
+        <translation>验证码无效</translation>
+    </message>
+    <message>
+        <source>Nimbra account login failure:invalid account</source>
+        <translation>Nimbra 账号登录失败：账号无效</translation>
+    </message>
+    <message>
+        <source>Nimbra account login failure:%1</source>
+        <translation>Nimbra 账号登录失败：%1</translation>
     </message>
 </context>
 <context>

@@ -4,6 +4,7 @@
 #include "host/kelvra_saas/SaasErrorMsg.h"
 #include "login/cloud/QRCodeMaskWt.h"
 #include "login/frame/Alerts.h"
+#include "login/frame/CloudAnswer.h"
 #include "ui_QRCodeLoginPanel.h"
 
 #include <QEvent>
@@ -11,7 +12,6 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QTimer>
-#include <QUuid>
 
 #include <chrono>
 
@@ -45,11 +45,6 @@ constexpr int illegalIpTitle = 7;
 constexpr int statusFailureTitle = 8;
 
 QPointer<QRCodeLoginPanel> newestPanel;
-
-QString newRequestId()
-{
-    return QUuid::createUuid().toString();
-}
 
 // The panel may be gone when this returns.
 void cloudAlert(const QString &text, const Response &response)
@@ -128,12 +123,11 @@ void QRCodeLoginPanel::refreshQRCode()
     waitingLabel->raise();
     const QString requestId = newRequestId();
     state = requestingCode;
-    const QPointer<QRCodeLoginPanel> self(this);
-    CloudWorker::_instance().getLoginQRCode(requestId,
-                                            [self, requestId](const Response &response, const LoginQRCodeInfo &info) {
-                                                if (self && newestPanel && response.requestId == requestId)
-                                                    self->codeAnswered(response, info);
-                                            });
+    CloudWorker::_instance().getLoginQRCode(
+        requestId, answerTo(requestId, this, [this](const Response &response, const LoginQRCodeInfo &info) {
+            if (newestPanel)
+                codeAnswered(response, info);
+        }));
 }
 
 void QRCodeLoginPanel::codeAnswered(const Response &response, const LoginQRCodeInfo &info)
@@ -168,13 +162,10 @@ void QRCodeLoginPanel::slotCheckLoginStatusTimeout()
     }
     statusQueryInFlight = true;
     const QString requestId = newRequestId();
-    const QPointer<QRCodeLoginPanel> self(this);
     // A foreign answer leaves the query in flight: there is silence until the right one comes.
-    CloudWorker::_instance().checkLoginQRCodeStatus(requestId, qrCodeId,
-                                                    [self, requestId](const Response &response, int status) {
-                                                        if (self && response.requestId == requestId)
-                                                            self->statusAnswered(response, status);
-                                                    });
+    CloudWorker::_instance().checkLoginQRCodeStatus(
+        requestId, qrCodeId,
+        answerTo(requestId, this, [this](const Response &response, int status) { statusAnswered(response, status); }));
 }
 
 void QRCodeLoginPanel::statusAnswered(const Response &response, int status)
@@ -216,17 +207,15 @@ void QRCodeLoginPanel::checkLoginQRCodeResult()
 {
     statusTimer->stop();
     const QString requestId = newRequestId();
-    const QPointer<QRCodeLoginPanel> self(this);
-    CloudWorker::_instance().checkLoginQRCodeResult(requestId, qrCodeId, [self, requestId](const Response &response) {
-        if (!self || response.requestId != requestId)
-            return;
-        if (response.code == kelvra_saas::successCode) {
-            emit self->signalScanQRCodeLoginSuccess();
-            return;
-        }
-        self->QRCodeInvalid(loginFailureTitle, tr("QR Code Login Failure"));
-        cloudAlert(tr("Check QR code login result failure:%1"), response);
-    });
+    CloudWorker::_instance().checkLoginQRCodeResult(
+        requestId, qrCodeId, answerTo(requestId, this, [this](const Response &response) {
+            if (response.code == kelvra_saas::successCode) {
+                emit signalScanQRCodeLoginSuccess();
+                return;
+            }
+            QRCodeInvalid(loginFailureTitle, tr("QR Code Login Failure"));
+            cloudAlert(tr("Check QR code login result failure:%1"), response);
+        }));
 }
 
 void QRCodeLoginPanel::QRCodeInvalid(int titleId, const QString &title)

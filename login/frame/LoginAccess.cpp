@@ -51,6 +51,8 @@ bool writeCredentials(const QString &filePath, const QString &content)
     if (target.exists() && !target.isFile())
         return false;
     QSaveFile file(filePath);
+    // A folder may take no new files while the file that is there may be written.
+    file.setDirectWriteFallback(true);
     if (!file.open(QIODevice::WriteOnly))
         return false;
     // Who has the file gets the password; a medium that knows no owners takes it all the same.

@@ -53,8 +53,8 @@ public:
 
     /**
      * Writes the superuser's login-credentials file, 128 to 256 bytes that lead back in when the password is lost.
-     * A file that is there already is replaced; a failure leaves things as they were. The user is told of either by
-     * a modal alert.
+     * A file that is there already is replaced; a failure leaves things as they were, but for a file in a folder
+     * that takes no new ones, which is written in place. The user is told of either by a modal alert.
      *
      * @param filePath where to; with an empty path nothing happens
      */

@@ -11,6 +11,7 @@
 #include "ui_GestureLoginWt.h"
 
 #include <QMouseEvent>
+#include <QPointer>
 #include <QTimer>
 
 using kelvra_contact::SystemMsg;
@@ -75,13 +76,18 @@ void GestureLoginWt::refuseGesture(const QString &userName)
 {
     LoginLogs::_instance().loginFailureLog(userName, gestureMethod);
     const int count = LoginWorker::_instance().failedTimes();
+    // The page may be gone when the hub returns.
+    const QPointer<GestureLoginWt> guard(this);
     if (count >= maxFailures) {
         auto &hub = LoginSignals::_instance();
         emit hub.signalLoginEvent(NormalLogin, {});
         emit hub.signalLockLoginByGesture();
     }
-    ui->gesturePanel->setError();
-    QTimer::singleShot(failureLabelDelayMs, this, [this, count] { showFailures(count == maxFailures ? 0 : count); });
+    if (guard) {
+        ui->gesturePanel->setError();
+        QTimer::singleShot(failureLabelDelayMs, this,
+                           [this, count] { showFailures(count == maxFailures ? 0 : count); });
+    }
     warningAlert(
         tr("gesture error, a maximum of %1 failures are allowed, now failed %2 times").arg(maxFailures).arg(count));
 }
