@@ -102,10 +102,10 @@ private slots:
                                 "setLoginSuccess(true) setValue(client_login_mode,1)";
         for (const char *way : {"drawn", "automatic"}) {
             QTest::newRow(way) << granted.arg(*way == 'd' ? "false" : "true");
-            QTest::addRow("%s, user gone", way) << "messageAlert(Account ann not exist)";
             for (const char *inVain : {"logged in", "quits", "page gone"})
                 QTest::addRow("%s, %s", way, inVain) << "";
         }
+        QTest::newRow("automatic, user gone") << "messageAlert(Account ann not exist)";
         QTest::newRow("automatic, cloud login") << "";
         for (const char *why : {"seven days", "flag off", "no record", "other computer", "locked", "switched"})
             QTest::newRow(why) << "";
@@ -154,6 +154,15 @@ private slots:
         host.whileAlertIsOpen = [&] { page.reset(); };
         draw(page.get(), "0367");
         QVERIFY(!page);
+
+        page = openPage();
+        while (LoginWorker::_instance().failedTimes() < 4)
+            LoginWorker::_instance().verifyPassword("ann", "bad");
+        QObject context;
+        connect(&LoginSignals::_instance(), &LoginSignals::signalLoginEvent, &context, [&] { page.reset(); });
+        draw(page.get(), "0367");
+        QVERIFY(!page && deeds().endsWith("now failed 5 times)"));
+        LoginWorker::_instance().setLocked(false);
 
         enterScreens();
         LoginWt router;

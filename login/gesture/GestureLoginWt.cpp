@@ -54,7 +54,7 @@ void GestureLoginWt::prepareAutoLogin()
     wanted = wanted && !locked;
     ui->autoLogin->setChecked(wanted);
     if (wanted && SystemWorker::_instance().lastLoggedUserType() == kelvra_worker::LocalUser)
-        loginSoon(name);
+        loginSoon(name, true);
 }
 
 void GestureLoginWt::setUserName(const QString &name)
@@ -67,7 +67,7 @@ void GestureLoginWt::slotGesturePwd(const QString &pwd)
 {
     const QString userName = ui->userName->text();
     if (LoginWorker::_instance().verifyGesture(userName, pwd))
-        loginSoon(userName);
+        loginSoon(userName, false);
     else
         refuseGesture(userName);
 }
@@ -98,18 +98,19 @@ void GestureLoginWt::showFailures(int count)
                                       : tr("Failed:%1 times, Remaining:%2 times").arg(count).arg(maxFailures - count));
 }
 
-void GestureLoginWt::loginSoon(const QString &userName)
+void GestureLoginWt::loginSoon(const QString &userName, bool automatic)
 {
-    QTimer::singleShot(autoLoginDelayMs, this, [this, userName] {
+    QTimer::singleShot(autoLoginDelayMs, this, [this, userName, automatic] {
         if (!quitting && !SystemWorker::_instance().isLoginSuccess())
-            login(userName);
+            login(userName, automatic);
     });
 }
 
-void GestureLoginWt::login(const QString &userName)
+void GestureLoginWt::login(const QString &userName, bool automatic)
 {
     const kelvra_data::UserInfo info = UserData::_instance().getUserInfo(userName);
-    if (info.name.isEmpty()) {
+    // A gesture has been verified for the user that it was drawn for; the record of the last login may be older.
+    if (automatic && info.name.isEmpty()) {
         warningAlert(tr("Account %1 not exist").arg(userName));
         return;
     }

@@ -37,8 +37,8 @@ private:
     void prepareAutoLogin();
     void refuseGesture(const QString &userName);
     void showFailures(int count);
-    void loginSoon(const QString &userName);
-    void login(const QString &userName);
+    void loginSoon(const QString &userName, bool automatic);
+    void login(const QString &userName, bool automatic);
 
     const std::unique_ptr<Ui::GestureLoginWt> ui;
     bool quitting = false;
