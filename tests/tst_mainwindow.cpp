@@ -9,6 +9,7 @@
 #include "host/kelvra_worker/SystemWorker.h"
 #include "tests/DataFolderTest.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDialog>
 #include <QHeaderView>
@@ -73,6 +74,27 @@ void enterPwd(const QDialog *dialog, const QString &password, const QString &con
     fill(dialog, "newPwd", password);
     fill(dialog, "confirmPwd", confirmed);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+}
+
+/** Draws as a hand does, a little past each dot. */
+void drawGesture(const QDialog *dialog, const QString &gesture)
+{
+    auto *pad = dialog->findChild<QWidget *>("gesturePanel");
+    QVector<QPoint> dots;
+    for (const auto *child : pad->findChildren<QWidget *>()) {
+        if (child->inherits("kelvra_login::GesturePoint"))
+            dots << child->mapTo(dialog, child->rect().center());
+    }
+    QWindow *window = dialog->windowHandle();
+    QPoint last = dots.value(gesture[0].digitValue());
+    QTest::mousePress(window, Qt::LeftButton, {}, last);
+    QTest::mouseMove(window, last + QPoint(1, 1));
+    for (const QChar digit : gesture.mid(1)) {
+        const QPoint next = dots.value(digit.digitValue());
+        QTest::mouseMove(window, next + (next - last) / 10);
+        last = next;
+    }
+    QTest::mouseRelease(window, Qt::LeftButton, {}, last);
 }
 
 QString errorOf(const QDialog *dialog)
@@ -261,7 +283,6 @@ private slots:
 
     void credentialsAreExported()
     {
-        SystemWorker::_instance().setCurUserInfo(kelvra_worker::LocalUser, "root", "468024", 0, false);
         const QString path = dir->filePath("credentials");
         const QPointer<QDialog> save = openDialog("exportCredentialsBt");
         QVERIFY(save && save->objectName() == "exportDlg");
@@ -281,7 +302,6 @@ private slots:
 
     void passwordIsGotBack()
     {
-        SystemWorker::_instance().setCurUserInfo(kelvra_worker::LocalUser, "root", "468024", 0, false);
         QTimer::singleShot(0, window.get(), [this] {
             auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
             const auto closed = qScopeGuard([dialog] { dialog->reject(); });
@@ -296,6 +316,52 @@ private slots:
         });
         QTest::mouseClick(child<QPushButton>("getbackPwdBt"), Qt::LeftButton);
         QCOMPARE(auditEvents(), QStringList("get back password root"));
+    }
+
+    void ownGestureIsManaged()
+    {
+        const auto state = [this] {
+            QStringList texts = {child<QLabel>("gestureState")->text(), child<QLabel>("signInNote")->text()};
+            for (const char *name : {"setOwnGestureBt", "deleteOwnGestureBt", "verifyGestureBt"})
+                texts << (child<QPushButton>(name)->isEnabled() ? child<QPushButton>(name)->text() : "-");
+            return texts.join('|');
+        };
+        QCOMPARE(state(), QString("not set||Set|-|-"));
+        drawInDialog("setOwnGestureBt", {"0124", "0124"});
+        QVERIFY(users().verifyUserGesture("root", "0124"));
+        QCOMPARE(state(), QString("set||Change|Delete|Verify"));
+        drawInDialog("verifyGestureBt", {"0124"});
+        QCOMPARE(state(), QString("set|The gesture password has been verified.|Change|Delete|Verify"));
+        drawInDialog("verifyGestureBt", {});
+        QCOMPARE(state(), QString("set|The gesture password was not verified.|Change|Delete|Verify"));
+        const QPointer<QDialog> alert = openDialog("deleteOwnGestureBt");
+        QTest::keyClick(alert, Qt::Key_Return);
+        QCOMPARE(state(), QString("not set|The gesture password has been deleted.|Set|-|-"));
+
+        select("bob");
+        drawInDialog("setGestureBt", {"4876", "4876"});
+        QVERIFY(users().verifyUserGesture("bob", "4876") && !users().isUserConfigureGesture("root"));
+        QCOMPARE(column(child<QTableView>("usersTable"), 3), QStringList("set"));
+        QTest::keyClick(openDialog("deleteGestureBt"), Qt::Key_Return);
+        QVERIFY(!users().isUserConfigureGesture("bob") && !child<QPushButton>("deleteGestureBt")->isEnabled());
+        QCOMPARE(auditEvents(),
+                 QStringList({"delete gesture bob", "add gesture bob", "delete gesture root", "add gesture root"}));
+    }
+
+    void automaticLoginIsSwitched()
+    {
+        QTest::mouseClick(child<QCheckBox>("autoLoginSwitch"), Qt::LeftButton, {}, QPoint(10, 10));
+        QVERIFY(users().isUserAutoLogin("root") && child<QLabel>("autoLogin")->text() == "Automatic");
+        // An account can only give it up, and has no gesture.
+        for (const bool on : {true, false}) {
+            showWindowFor("13800001111", CloudUser, on);
+            QVERIFY(!child<QPushButton>("setOwnGestureBt")->isEnabled());
+            QVERIFY(child<QPushButton>("setOwnGestureBt")->toolTip().contains("cloud account"));
+            QCOMPARE(child<QCheckBox>("autoLoginSwitch")->isEnabled(), on);
+            QTest::mouseClick(child<QCheckBox>("autoLoginSwitch"), Qt::LeftButton, {}, QPoint(10, 10));
+            QVERIFY(!users().isUserAutoLogin("13800001111"));
+        }
+        QCOMPARE(auditEvents(), QStringList({"cancel automatic login 13800001111", "open automatic login root"}));
     }
 
     void auditLogIsAlive()
@@ -363,10 +429,14 @@ private slots:
         connect(msg, &SystemMsg::signalPrepareQuitSystem, &listener, [&] { heard << "prepare"; });
         connect(msg, &SystemMsg::signalQuitSystem, &listener, [&] { heard << "quit"; });
         connect(window.get(), &MainWindow::signalSwitchUser, &listener, [&] { heard << "switch"; });
+        connect(window.get(), &MainWindow::signalShowPhone, &listener, [&] { heard << "phone"; });
+        QVERIFY(!child<QPushButton>("phoneBt")->isVisible());
+        window->offerPhone(true);
+        QTest::mouseClick(child<QPushButton>("phoneBt"), Qt::LeftButton);
         QTest::mouseClick(child<QPushButton>("switchUserBt"), Qt::LeftButton);
         QTest::mouseClick(child<QPushButton>("quitBt"), Qt::LeftButton);
         window->close();
-        QCOMPARE(heard, QStringList({"switch", "prepare", "quit"}));
+        QCOMPARE(heard, QStringList({"phone", "switch", "prepare", "quit"}));
     }
 
 private:
@@ -383,11 +453,34 @@ private:
         return QTest::qWaitFor([&] { return dialog && QApplication::activeWindow() == dialog; }) ? dialog : nullptr;
     }
 
-    void showWindowFor(const QString &user)
+    /** Clicks `button` and draws in the dialog that opens; without a gesture it is closed. */
+    void drawInDialog(const char *button, const QStringList &gestures) const
     {
+        QTimer::singleShot(0, window.get(), [&] {
+            auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+            QVERIFY(dialog && dialog->parent() == window.get());
+            const auto closed = qScopeGuard([&] {
+                if (dialog->isVisible())
+                    dialog->reject();
+            });
+            auto *pad = dialog->findChild<QWidget *>("gesturePanel");
+            const QImage clean = pad->grab().toImage();
+            for (const QString &gesture : gestures) {
+                drawGesture(dialog, gesture);
+                QTRY_VERIFY(dialog->isHidden() || pad->grab().toImage() == clean);
+            }
+            QTRY_VERIFY(dialog->isHidden() || gestures.isEmpty());
+        });
+        QTest::mouseClick(child<QPushButton>(button), Qt::LeftButton);
+    }
+
+    void showWindowFor(const QString &user, UserType type = kelvra_worker::LocalUser, bool autoLogin = false)
+    {
+        SystemWorker::_instance().setCurUserInfo(type, user, {}, 0, autoLogin);
         window = std::make_unique<MainWindow>();
         SessionInfo session;
         session.user = user;
+        session.type = type;
         session.since = QDateTime::currentDateTime();
         window->setSession(session);
         window->loadUsers();

@@ -78,12 +78,13 @@ private slots:
         row({"--data-dir", "/d", "--language", "1", "--user", user}, "/d 1 Ada Lovelace ");
         row({"--data-dir=/d", "--tour", "/t"}, "/d -1  /t");
         row({"--data-dir", "/d", "--help"}, "/d -1   help");
+        row({"--data-dir", "/d", "--no-phone"}, "/d -1   no phone");
         row({"-platform", "offscreen"}, "Unknown option 'platform'.");
         row({"--data-dir"}, "Missing value after '--data-dir'.");
         row({"--data-dir", ""}, "Missing value after '--data-dir'.");
         row({"--data-dir", "--version"}, "Missing value after '--data-dir'.");
         row({"--user", " "}, "Missing value after '--user'.");
-        row({"--language", "7"}, "Unknown language '7'; these are known: 0 English, 1 简体中文.");
+        row({"--language", "7"}, "Unknown language '7'; these are known: 0 English, 1 简体中文, 2 Deutsch,");
         row({"--language", "english"}, "Unknown language 'english'");
         row({"--tour", "/t", "--user", "a"}, "exclude each other.");
         row({"/d"}, "Unexpected argument '/d'.");
@@ -102,7 +103,8 @@ private slots:
         QCOMPARE(QString("%1 %2 %3 %4%5")
                      .arg(parsed->dataFolder)
                      .arg(parsed->language ? int(*parsed->language) : -1)
-                     .arg(parsed->user, parsed->tourFolder, parsed->help ? " help" : ""),
+                     .arg(parsed->user, parsed->tourFolder,
+                          QString(parsed->help ? " help" : "") + (parsed->noPhone ? " no phone" : "")),
                  result);
     }
 

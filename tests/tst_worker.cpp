@@ -1,5 +1,6 @@
 #include "client/kelvra_data/Store.h"
 #include "client/kelvra_worker/CustomizeFile.h"
+#include "client/kelvra_worker/Languages.h"
 #include "client/kelvra_worker/WorkerSetup.h"
 #include "host/kelvra_worker/DictDef.h"
 #include "host/kelvra_worker/LoginLogs.h"
@@ -84,7 +85,11 @@ private slots:
         WorkerSetup::loadSavedLanguage();
         QCOMPARE(int(language.getLanguage()), 1);
         language.setLanguage(Language(0), true);
-        QVERIFY(int(WorkerSetup::languageForLocale("zh_CN")) == 1 && int(WorkerSetup::languageForLocale("de")) == 0);
+        const QStringList locales{"en_US", "zh_CN", "de_AT", "es_MX", "fr_CA", "ru_RU", "ja_JP", "zh_TW", "it_IT", "C"};
+        QVector<int> spoken;
+        for (const QString &locale : locales)
+            spoken << Languages::forLocale(locale);
+        QCOMPARE(spoken, QVector<int>({0, 1, 2, 3, 4, 5, 6, 0, 0, 0}));
     }
 
     void settingsReachTheFile()
@@ -155,15 +160,15 @@ private slots:
         const auto row = [](const char *tag, const QByteArray &content, const char *record, const char *problem) {
             QTest::newRow(tag) << content << QString(record) << QString(problem);
         };
-        row("empty", "; nothing\n", "0 0 0 ", "");
-        const QByteArray set("[login]\ncloud_login=True\n[loading]\ncustom_image=1\nimage=/a/图.png\n"
+        row("empty", "; nothing\n", "1 0 0 ", "");
+        const QByteArray set("[login]\ncloud_login=False\n[loading]\ncustom_image=1\nimage=/a/图.png\n"
                              "[recovery]\nreplace_superuser=true\n");
-        row("set", set, "1 1 1 /a/图.png", "");
-        row("beside", "[loading]\nimage=\"a, b.png\"\n", "0 0 0 ~/a, b.png", "");
-        row("no flag", "[login]\ncloud_login=maybe\n[loading]\ncustom_image=true\n", "0 1 0 ",
+        row("set", set, "0 1 1 /a/图.png", "");
+        row("beside", "[loading]\nimage=\"a, b.png\"\n", "1 0 0 ~/a, b.png", "");
+        row("no flag", "[login]\ncloud_login=maybe\n[loading]\ncustom_image=true\n", "1 1 0 ",
             "login/cloud_login .*customize.ini");
-        row("list", "[loading]\nimage=a,b.png\n", "0 0 0 ", "loading/image .*customize.ini");
-        row("damaged", "[login\ncloud_login=true\n", "0 0 0 ", "customize.ini is damaged");
+        row("list", "[loading]\nimage=a,b.png\n", "1 0 0 ", "loading/image .*customize.ini");
+        row("damaged", "[login\ncloud_login=true\n", "1 0 0 ", "customize.ini is damaged");
     }
 
     void customisation()
@@ -186,11 +191,11 @@ private slots:
         CustomizeFile customization(path);
         QVERIFY(customization.read() && !QFile::exists(path) && customization.createIfMissing());
         const QByteArray text = readFile(path);
-        for (const char *line : {"Default: false\ncloud_login=false\n", "Default: false\ncustom_image=false\n",
+        for (const char *line : {"Default: true\ncloud_login=true\n", "Default: false\ncustom_image=false\n",
                                  "\nimage=\n", "Default: false\nreplace_superuser=false\n"})
             QVERIFY2(text.contains(line), line);
         QVERIFY(customization.read());
-        QCOMPARE(textOf(customization), QString("0 0 0 "));
+        QCOMPARE(textOf(customization), QString("1 0 0 "));
     }
 };
 

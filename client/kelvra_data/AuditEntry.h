@@ -14,7 +14,7 @@ struct AuditEntry
     QDateTime at;       ///< kept in UTC with milliseconds
     QString event;      ///< what happened, a word of the worker library's choosing
     QString user;       ///< whom it concerns
-    int method = -1;    ///< 0 password login, 1 gesture login, -1 when it does not apply
+    int method = -1;    ///< 0 password login, 1 gesture login, 2 login with a cloud account, -1 when it does not apply
     int autoLogin = -1; ///< 0 or 1, -1 when it does not apply
     int seconds = -1;   ///< length of a lock, -1 when it does not apply
 };

@@ -260,6 +260,17 @@ bool Store::holds(const char *sql, const QVariantList &values) const
     return query.next() && query.value(0).toBool();
 }
 
+// Apart from the places of the tables' columns, which hold a dot.
+QByteArray Store::seal(const QString &text, const QByteArray &place) const
+{
+    return keys->seal(text, "text:" + place);
+}
+
+bool Store::unseal(const QByteArray &sealed, const QByteArray &place, QString *text) const
+{
+    return keys->open(sealed, "text:" + place, *text);
+}
+
 QByteArray Store::salt() const
 {
     QSqlQuery query = run("SELECT salt FROM state");

@@ -61,6 +61,14 @@ public:
 
     const Vault &vault() const { return *keys; }
 
+    /**
+     * A text of another library sealed under the key file, empty on failure. It opens only for the same `place`, a
+     * word that says what it is.
+     */
+    QByteArray seal(const QString &text, const QByteArray &place) const;
+    /** False when `sealed` was not sealed in this folder for that place; `text` is then left alone. */
+    bool unseal(const QByteArray &sealed, const QByteArray &place, QString *text) const;
+
     /** 16 random bytes that no other folder has. */
     QByteArray salt() const;
 

@@ -38,12 +38,13 @@ UserAdmin::~UserAdmin() = default;
 QVector<OrdinaryUser> UserAdmin::users() const
 {
     QVector<OrdinaryUser> users;
-    QSqlQuery query = store().run("SELECT name, last_login, auto_login FROM users WHERE kind = ? AND role = ? "
-                                  "ORDER BY name",
+    QSqlQuery query = store().run("SELECT name, last_login, auto_login, gesture IS NOT NULL FROM users "
+                                  "WHERE kind = ? AND role = ? ORDER BY name",
                                   {Schema::LocalKind, OrdinaryUserRole});
     while (query.next()) {
         const QDateTime lastLogin = QDateTime::fromString(query.value(1).toString(), Qt::ISODateWithMs);
-        users.append({query.value(0).toString(), lastLogin.toLocalTime(), query.value(2).toBool()});
+        users.append(
+            {query.value(0).toString(), lastLogin.toLocalTime(), query.value(2).toBool(), query.value(3).toBool()});
     }
     return users;
 }

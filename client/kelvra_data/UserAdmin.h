@@ -22,10 +22,12 @@ struct OrdinaryUser
     QString name;
     QDateTime lastLogin;    ///< local time, null before the first login
     bool autoLogin = false; ///< the next login may be automatic
+    bool gesture = false;   ///< has a gesture password
 
     bool operator==(const OrdinaryUser &other) const
     {
-        return name == other.name && lastLogin == other.lastLogin && autoLogin == other.autoLogin;
+        return name == other.name && lastLogin == other.lastLogin && autoLogin == other.autoLogin &&
+               gesture == other.gesture;
     }
 };
 

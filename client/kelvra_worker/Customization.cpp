@@ -11,11 +11,9 @@ namespace {
 
 CustomizeInfo load()
 {
-    if (WorkerSetup::dataFolder().isEmpty())
-        return {};
     CustomizeFile file(WorkerSetup::customizeFilePath());
     QString error;
-    if (!file.read(&error))
+    if (!WorkerSetup::dataFolder().isEmpty() && !file.read(&error))
         qWarning("%s", qUtf8Printable(error)); // the shell does not come this far with such a file
     return file.info();
 }

@@ -20,9 +20,8 @@ const QByteArray defaultFile =
 ; A line that begins with a semicolon is a comment. Delete this file to get it back with its defaults.
 
 [login]
-; true offers login with a cloud account beside local login. The cloud pages come with a later version of the
-; client; until then leave this off. Default: false
-cloud_login=false
+; true offers login with a cloud account beside local login. Default: true
+cloud_login=true
 
 [loading]
 ; true shows an image of your own while the client loads its data. Default: false
@@ -39,17 +38,25 @@ image=
 replace_superuser=false
 )";
 
+CustomizeInfo defaultRecord()
+{
+    CustomizeInfo record;
+    record.cloudLoginEnabled = true;
+    return record;
+}
+
 } // namespace
 
 CustomizeFile::CustomizeFile(const QString &filePath)
     : path(filePath)
+    , record(defaultRecord())
 {
 }
 
 bool CustomizeFile::read(QString *error)
 {
     IniFile file(path);
-    const CustomizeInfo defaults;
+    const CustomizeInfo defaults = defaultRecord();
     record.cloudLoginEnabled = file.flag(cloudLoginKey, defaults.cloudLoginEnabled);
     record.customLoadingImageEnabled = file.flag(customImageKey, defaults.customLoadingImageEnabled);
     record.loadingImagePath = file.path(imageKey, defaults.loadingImagePath);

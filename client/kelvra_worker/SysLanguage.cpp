@@ -1,5 +1,6 @@
 #include "host/kelvra_worker/SysLanguage.h"
 
+#include "client/kelvra_worker/Languages.h"
 #include "client/kelvra_worker/WorkerKeys.h"
 #include "host/kelvra_worker/DictDef.h"
 #include "host/kelvra_worker/UiSettings.h"
@@ -16,9 +17,10 @@ namespace kelvra_worker {
 
 namespace {
 
-const QString ownTranslations[] = {QStringLiteral(":/translations/kelvra_login_zh_CN.qm"),
-                                   QStringLiteral(":/translations/kelvra_client_zh_CN.qm")};
-const QString toolkitTranslation = QStringLiteral("qtbase_zh_CN");
+// Each is followed by the code of a language.
+const QString ownTranslations[] = {QStringLiteral(":/translations/kelvra_login_"),
+                                   QStringLiteral(":/translations/kelvra_client_")};
+const QString toolkitTranslation = QStringLiteral("qtbase_");
 
 } // namespace
 
@@ -26,7 +28,7 @@ class SysLanguage::Private
 {
 public:
     bool install(const QString &file, const QString &folder = QString());
-    void installChinese();
+    void installTranslations(const QString &code);
 
     Language language = english;
     std::vector<std::unique_ptr<QTranslator>> translators; ///< a translator that dies leaves the application
@@ -42,13 +44,13 @@ bool SysLanguage::Private::install(const QString &file, const QString &folder)
     return true;
 }
 
-void SysLanguage::Private::installChinese()
+void SysLanguage::Private::installTranslations(const QString &code)
 {
     // The toolkit's own texts come first, since the translator installed last is asked first; it may be absent.
-    install(toolkitTranslation, QLibraryInfo::location(QLibraryInfo::TranslationsPath));
+    install(toolkitTranslation + code, QLibraryInfo::location(QLibraryInfo::TranslationsPath));
     for (const QString &file : ownTranslations)
-        if (!install(file))
-            qWarning("The translation %s cannot be loaded.", qUtf8Printable(file));
+        if (!install(file + code))
+            qWarning("The translation %s%s cannot be loaded.", qUtf8Printable(file), qUtf8Printable(code));
 }
 
 SysLanguage::SysLanguage()
@@ -65,12 +67,16 @@ Language SysLanguage::getLanguage() const
 
 QMap<int, QString> SysLanguage::getLanguageNames() const
 {
-    return {{english, QStringLiteral("English")}, {chinese, QStringLiteral("简体中文")}};
+    QMap<int, QString> names;
+    for (const Languages::Entry &entry : Languages::all())
+        names.insert(entry.id, entry.name);
+    return names;
 }
 
 void SysLanguage::setLanguage(Language language, bool save)
 {
-    if (!getLanguageNames().contains(language))
+    const Languages::Entry *entry = Languages::find(language);
+    if (!entry)
         return;
     if (save)
         UiSettings::_instance().setValue(languageKey, int(language));
@@ -78,8 +84,8 @@ void SysLanguage::setLanguage(Language language, bool save)
         return;
     d->language = language;
     d->translators.clear();
-    if (language == chinese)
-        d->installChinese();
+    if (language != english)
+        d->installTranslations(entry->code);
     DictDef::_instance().retranslate();
 }
 

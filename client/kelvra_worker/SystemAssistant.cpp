@@ -21,6 +21,15 @@ AlertBox::Icon iconFor(const QString &title)
     return title == dictionary.alertTitle(DictDef::InformationTitle) ? AlertBox::Information : AlertBox::Warning;
 }
 
+/** Where the user is at work; a window that only keeps others company is no place for an alert. */
+QWidget *placeForAlert()
+{
+    if (QWidget *modal = QApplication::activeModalWidget())
+        return modal;
+    QWidget *active = QApplication::activeWindow();
+    return active && active->windowType() != Qt::Tool ? active : nullptr;
+}
+
 } // namespace
 
 SystemAssistant::SystemAssistant() = default;
@@ -29,8 +38,7 @@ SystemAssistant::~SystemAssistant() = default;
 
 void SystemAssistant::messageAlert(const QString &title, const QString &text)
 {
-    QWidget *const modal = QApplication::activeModalWidget();
-    AlertBox::ask(modal ? modal : QApplication::activeWindow(), iconFor(title), title, text);
+    AlertBox::ask(placeForAlert(), iconFor(title), title, text);
 }
 
 } // namespace kelvra_worker

@@ -38,6 +38,9 @@ void SystemWorker::setCurUserInfo(UserType type, const QString &name, const QStr
 {
     d->current = {name, password, attribute, autoLogin};
     setLastLoggedInUserType(type);
+    // A local user's choice is in the login record; an account has none.
+    if (type == CloudUser)
+        kelvra_data::UserData::_instance().userAutoLoginCtrl(name, autoLogin);
 }
 
 void SystemWorker::setLoginSuccess(bool success)

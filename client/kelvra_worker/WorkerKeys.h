@@ -1,14 +1,8 @@
 #pragma once
 
-#include "host/kelvra_worker/Language.h"
-
 #include <QString>
 
 namespace kelvra_worker {
-
-/** Languages that the client speaks. The ids are stored and never change their meaning. */
-constexpr Language english{0};
-constexpr Language chinese{1};
 
 /** Keys under which the services keep state of their own in UiSettings. */
 inline const QString languageKey = QStringLiteral("language");

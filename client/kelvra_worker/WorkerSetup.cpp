@@ -1,6 +1,7 @@
 #include "client/kelvra_worker/WorkerSetup.h"
 
 #include "client/kelvra_worker/IniFile.h"
+#include "client/kelvra_worker/Languages.h"
 #include "client/kelvra_worker/WorkerKeys.h"
 #include "host/kelvra_worker/SysLanguage.h"
 #include "host/kelvra_worker/UiSettings.h"
@@ -54,16 +55,11 @@ bool WorkerSetup::checkSettings(QString *error)
 
 void WorkerSetup::loadSavedLanguage()
 {
-    SysLanguage &sysLanguage = SysLanguage::_instance();
     bool isNumber = false;
     const int saved = UiSettings::_instance().getValue(languageKey).toInt(&isNumber);
-    const bool known = isNumber && sysLanguage.getLanguageNames().contains(saved);
-    sysLanguage.setLanguage(known ? Language(saved) : languageForLocale(QLocale::system().name()), false);
-}
-
-Language WorkerSetup::languageForLocale(const QString &locale)
-{
-    return locale == QLatin1String("zh_CN") ? chinese : english;
+    const bool known = isNumber && Languages::find(Language(saved));
+    const Language language = known ? Language(saved) : Languages::forLocale(QLocale::system().name());
+    SysLanguage::_instance().setLanguage(language, false);
 }
 
 } // namespace kelvra_worker

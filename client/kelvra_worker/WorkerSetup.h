@@ -1,7 +1,6 @@
 #pragma once
 
 #include "host/Export.h"
-#include "host/kelvra_worker/Language.h"
 
 #include <QString>
 
@@ -24,8 +23,9 @@ public:
 
     /**
      * Whether "settings.ini" can be used; otherwise `error` holds a sentence for the user. The file is left alone.
-     * These keys are looked at, each a number: "language" (0 English, 1 Chinese), "last_login_user_type" (1 local,
-     * 2 cloud) and "client_login_mode" (0 password, 1 gesture).
+     * These keys are looked at, each a number: "language" (an id of Languages: 0 English, 1 简体中文, 2 Deutsch,
+     * 3 Español, 4 Français, 5 Русский, 6 日本語), "last_login_user_type" (1 local, 2 cloud) and "client_login_mode" (0
+     * password, 1 gesture).
      */
     static bool checkSettings(QString *error);
 
@@ -34,9 +34,6 @@ public:
      * speaks it, else English.
      */
     static void loadSavedLanguage();
-
-    /** The language of `locale` ("zh_CN") where the client speaks it, else English. */
-    static Language languageForLocale(const QString &locale);
 };
 
 } // namespace kelvra_worker

@@ -121,6 +121,8 @@ QString AuditModel::details(const AuditEntry &entry)
         parts << tr("by gesture");
     else if (entry.method == SessionInfo::PasswordMethod)
         parts << tr("by password");
+    else if (entry.method == SessionInfo::CloudMethod)
+        parts << tr("by cloud account");
     if (entry.autoLogin > 0)
         parts << tr("automatic login from now on");
     if (entry.seconds >= 0)

@@ -3,10 +3,12 @@
 #include "client/kelvra_base/AlertBox.h"
 #include "client/kelvra_data/Store.h"
 #include "client/kelvra_worker/AuditEvent.h"
+#include "client/kelvra_worker/AuditTrail.h"
 #include "client/kelvra_worker/CustomizeFile.h"
 #include "client/kelvra_worker/FailureNotice.h"
 #include "client/kelvra_worker/WorkerSetup.h"
 #include "client/shell/ClientStyle.h"
+#include "client/shell/CloudSide.h"
 #include "client/shell/Console.h"
 #include "client/shell/MainWindow.h"
 #include "client/shell/SingleInstance.h"
@@ -27,6 +29,7 @@
 #include <QTimer>
 
 #include <iterator>
+#include <utility>
 
 using kelvra_contact::SystemMsg;
 using kelvra_data::Store;
@@ -59,6 +62,7 @@ ClientShell::ClientShell(QObject *parent)
 ClientShell::~ClientShell()
 {
     window.reset();
+    cloud.reset();
     QList<QPointer<QWidget>> left;
     for (QWidget *widget : QApplication::topLevelWidgets())
         left.append(widget);
@@ -120,6 +124,9 @@ QString ClientShell::openData()
     if (!customization.read(&error) || !WorkerSetup::checkSettings(&error) ||
         !Store::_instance().open(options.dataFolder, &error))
         return error;
+    cloud = std::make_unique<CloudSide>();
+    cloud->open(options.dataFolder);
+    cloud->keepPhone(!options.noPhone);
     Store::_instance().setSuperUserReplaceable(customization.isSuperUserReplaceable());
     if (!customization.createIfMissing())
         kelvra_worker::FailureNotice::show(tr("The file %1 cannot be written; the client goes on without it.")
@@ -145,6 +152,7 @@ void ClientShell::connectMessages()
     connect(&messages, &SystemMsg::signalSystemInitFinished, this, &ClientShell::showWindow);
     connect(&messages, &SystemMsg::signalPrepareQuitSystem, this, &ClientShell::saveSettings);
     connect(&messages, &SystemMsg::signalPrepareQuitSystem, &loadTimer, &QTimer::stop);
+    connect(&messages, &SystemMsg::signalPrepareQuitSystem, cloud.get(), &CloudSide::leaveLogin);
     connect(&loadTimer, &QTimer::timeout, this, &ClientShell::loadNext);
     connect(&messages, &SystemMsg::signalQuitSystem, this, &QCoreApplication::quit);
 }
@@ -157,31 +165,46 @@ void ClientShell::startLogin()
     module.init();
     loginOpened = QDateTime::currentDateTime();
     requestLogin();
+    cloud->accompanyLogin();
     connect(instance.get(), &SingleInstance::signalRepeatedStart, this, &ClientShell::comeToFront);
     instance->answerRepeatedStarts();
 }
 
 void ClientShell::requestLogin()
 {
-    auto &loginInit = kelvra_login::LoginInit::_instance();
     bool locked = false;
     int seconds = 0;
-    if (UserData::_instance().getLockInfo(locked, seconds) && locked)
+    if (UserData::_instance().getLockInfo(locked, seconds) && locked && !CloudSide::isAccount(options.user))
         handedPassword.clear();
     userHandedOver = !handedPassword.isEmpty();
+    if (userHandedOver) {
+        requestHandedOverLogin();
+        return;
+    }
+    const bool cloudUser =
+        CloudSide::isEnabled() && SystemWorker::_instance().lastLoggedUserType() == kelvra_worker::CloudUser;
     // Where a user has been named, a remembered one does not log in of itself: it would be there first.
-    if (userHandedOver)
-        loginInit.login(kelvra_worker::LocalUser, {options.user, handedPassword}, false);
-    else
-        loginInit.login(SystemWorker::_instance().lastLoggedUserType(), {}, options.user.isEmpty());
+    const bool byItself = options.user.isEmpty() && (!cloudUser || CloudSide::isAutoLoginStored());
+    kelvra_login::LoginInit::_instance().login(cloudUser ? kelvra_worker::CloudUser : kelvra_worker::LocalUser, {},
+                                               byItself);
+}
+
+void ClientShell::requestHandedOverLogin()
+{
+    const bool isAccount = CloudSide::isEnabled() && CloudSide::isAccount(options.user);
+    handedAutoLogin = UserData::_instance().isUserAutoLogin(options.user);
+    kelvra_login::LoginInit::_instance().login(isAccount ? kelvra_worker::CloudUser : kelvra_worker::LocalUser,
+                                               {options.user, handedPassword}, false);
     handedPassword.clear();
 }
 
 void ClientShell::comeToFront()
 {
     emit SystemMsg::_instance().signalClientRepeatedStart();
-    if (!window || !window->isVisible())
+    if (!window || !window->isVisible()) {
+        cloud->accompanyLogin();
         return;
+    }
     if (window->isMinimized())
         window->showNormal();
     window->raise();
@@ -195,6 +218,7 @@ void ClientShell::switchUser()
     window->hide();
     loginOpened = QDateTime::currentDateTime();
     kelvra_login::LoginInit::_instance().switchUser();
+    cloud->accompanyLogin();
 }
 
 void ClientShell::startLoading()
@@ -231,6 +255,10 @@ void ClientShell::readSession()
     session.user = worker.getCurUserName();
     session.type = worker.lastLoggedUserType();
     session.method = -1;
+    if (session.type == kelvra_worker::CloudUser) {
+        readCloudSession();
+        return;
+    }
     const QString success = kelvra_worker::auditWord(kelvra_worker::AuditEvent::LoginSuccess);
     for (const kelvra_data::AuditEntry &entry : Store::_instance().auditLog(auditEntriesSearched)) {
         if (entry.event == success && entry.user == session.user && entry.at >= loginOpened) {
@@ -241,11 +269,22 @@ void ClientShell::readSession()
     recordHandedOver();
 }
 
+// The module keeps no record of such a login, and takes one that was handed over for automatic from now on.
+void ClientShell::readCloudSession()
+{
+    auto &userData = UserData::_instance();
+    if (std::exchange(userHandedOver, false) && !handedAutoLogin)
+        userData.userAutoLoginCtrl(session.user, false);
+    CloudSide::settleAutoLogin(session.user);
+    session.method = SessionInfo::CloudMethod;
+    kelvra_worker::AuditTrail::_instance().write(kelvra_worker::AuditEvent::LoginSuccess, session.user, session.method,
+                                                 int(userData.isUserAutoLogin(session.user)));
+}
+
 // The module takes such a login for one that is on record, so the record is made here.
 void ClientShell::recordHandedOver()
 {
-    const bool unrecorded = session.method < 0 && session.type == kelvra_worker::LocalUser;
-    if (userHandedOver && unrecorded && session.user == options.user) {
+    if (userHandedOver && session.method < 0 && session.user == options.user) {
         session.method = passwordMethod;
         kelvra_worker::LoginLogs::_instance().loginSuccessLog(session.user, passwordMethod,
                                                               UserData::_instance().isUserAutoLogin(session.user));
@@ -258,6 +297,8 @@ void ClientShell::buildWindow()
     if (!window) {
         window = std::make_unique<MainWindow>();
         connect(window.get(), &MainWindow::signalSwitchUser, this, &ClientShell::switchUser);
+        connect(window.get(), &MainWindow::signalShowPhone, cloud.get(), &CloudSide::showPhone);
+        window->offerPhone(cloud->hasPhone());
     }
     window->setSession(session);
 }
@@ -287,6 +328,7 @@ void ClientShell::saveSettings()
 
 void ClientShell::showWindow()
 {
+    cloud->leaveLogin();
     window->show();
     window->raise();
     window->activateWindow();

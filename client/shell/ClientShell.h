@@ -11,6 +11,7 @@
 
 namespace kelvra_client {
 
+class CloudSide;
 class MainWindow;
 class SingleInstance;
 
@@ -44,6 +45,8 @@ private:
 
     void startLogin();
     void requestLogin();
+    /** As the options name them, with the password given. */
+    void requestHandedOverLogin();
     void comeToFront();
     void switchUser();
     void startLoading();
@@ -51,6 +54,7 @@ private:
     void saveSettings();
 
     void readSession();
+    void readCloudSession();
     void recordHandedOver();
     void buildWindow();
     void readUsers();
@@ -61,11 +65,13 @@ private:
     StartOptions options;
     QString handedPassword;                   ///< until the login has it
     std::unique_ptr<SingleInstance> instance; ///< goes last: the folder is in use until the store is closed
+    std::unique_ptr<CloudSide> cloud;         ///< from when the store is open
     std::unique_ptr<MainWindow> window;
     SessionInfo session;
-    QDateTime loginOpened;       ///< a login success in the audit log belongs to this session from here on
-    bool userHandedOver = false; ///< and not yet on record
-    QTimer loadTimer;            ///< to the next step of loading; stops when the user quits meanwhile
+    QDateTime loginOpened;        ///< a login success in the audit log belongs to this session from here on
+    bool userHandedOver = false;  ///< and not yet on record
+    bool handedAutoLogin = false; ///< what the account had chosen before it was handed over
+    QTimer loadTimer;             ///< to the next step of loading; stops when the user quits meanwhile
     int nextStep = 0;
 };
 

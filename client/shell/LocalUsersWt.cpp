@@ -9,6 +9,7 @@
 #include "host/kelvra_worker/DictDef.h"
 #include "host/kelvra_worker/SystemAssistant.h"
 #include "host/kelvra_worker/SystemWorker.h"
+#include "login/frame/LoginAccess.h"
 #include "ui_LocalUsersWt.h"
 
 #include <QEvent>
@@ -18,14 +19,22 @@
 using kelvra_base::AlertBox;
 using kelvra_data::UserAdmin;
 using kelvra_data::UserData;
+using kelvra_login::LoginAccess;
 using kelvra_worker::DictDef;
 
 namespace kelvra_client {
 
 namespace {
 
-constexpr int nameColumnWidth = 340;      // pixels: as wide as the first two columns of the audit log
+constexpr int nameColumnWidth = 232;      // pixels
 constexpr int lastLoginColumnWidth = 160; // pixels
+constexpr int autoLoginColumnWidth = 124; // pixels
+
+void alertFailure(const QString &sentence)
+{
+    kelvra_worker::SystemAssistant::_instance().messageAlert(
+        DictDef::_instance().alertTitle(DictDef::OperationFailedTitle), sentence);
+}
 
 } // namespace
 
@@ -44,6 +53,7 @@ LocalUsersWt::LocalUsersWt(QWidget *parent)
     ui->usersTable->sortByColumn(UsersModel::NameColumn, Qt::AscendingOrder);
     ui->usersTable->horizontalHeader()->resizeSection(UsersModel::NameColumn, nameColumnWidth);
     ui->usersTable->horizontalHeader()->resizeSection(UsersModel::LastLoginColumn, lastLoginColumnWidth);
+    ui->usersTable->horizontalHeader()->resizeSection(UsersModel::AutoLoginColumn, autoLoginColumnWidth);
     connectButtons();
     refresh();
 }
@@ -54,6 +64,8 @@ void LocalUsersWt::connectButtons()
 {
     connect(ui->addUserBt, &QPushButton::clicked, this, &LocalUsersWt::addUser);
     connect(ui->setPwdBt, &QPushButton::clicked, this, &LocalUsersWt::setPassword);
+    connect(ui->setGestureBt, &QPushButton::clicked, this, &LocalUsersWt::setGesture);
+    connect(ui->deleteGestureBt, &QPushButton::clicked, this, &LocalUsersWt::confirmGestureDeletion);
     connect(ui->removeUserBt, &QPushButton::clicked, this, &LocalUsersWt::confirmRemoval);
     connect(ui->usersTable->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &LocalUsersWt::showSelection);
@@ -71,8 +83,8 @@ void LocalUsersWt::refresh()
     const QString selected = selectedUser();
     model->setUsers(manages ? UserAdmin::_instance().users() : QVector<kelvra_data::OrdinaryUser>());
     select(selected);
-    for (QWidget *widget :
-         std::initializer_list<QWidget *>{ui->usersTable, ui->addUserBt, ui->setPwdBt, ui->removeUserBt})
+    for (QWidget *widget : std::initializer_list<QWidget *>{ui->usersTable, ui->addUserBt, ui->setPwdBt,
+                                                            ui->setGestureBt, ui->deleteGestureBt, ui->removeUserBt})
         widget->setVisible(manages);
     ui->usersNote->setVisible(!manages);
     setSizePolicy(QSizePolicy::Preferred, manages ? QSizePolicy::Expanding : QSizePolicy::Maximum);
@@ -96,7 +108,12 @@ void LocalUsersWt::select(const QString &name)
 void LocalUsersWt::showSelection()
 {
     const bool any = ui->usersTable->selectionModel()->hasSelection();
+    const int row = model->rowOf(selectedUser());
+    const bool gesture = row >= 0 && model->hasGesture(row);
     ui->setPwdBt->setEnabled(any);
+    ui->setGestureBt->setEnabled(any);
+    ui->setGestureBt->setText(gesture ? tr("Change gesture") : tr("Set gesture"));
+    ui->deleteGestureBt->setEnabled(gesture);
     ui->removeUserBt->setEnabled(any);
 }
 
@@ -132,15 +149,38 @@ void LocalUsersWt::open(NewPwdDlg *dialog)
     dialog->open();
 }
 
+void LocalUsersWt::setGesture()
+{
+    LoginAccess::_instance().addUserGesture(window(), selectedUser());
+}
+
+void LocalUsersWt::confirmGestureDeletion()
+{
+    const QString name = selectedUser();
+    ask(tr("Delete the gesture password of %1?").arg(name), name, &LocalUsersWt::deleteGesture);
+}
+
+void LocalUsersWt::deleteGesture(const QString &name)
+{
+    const bool deleted = LoginAccess::_instance().deleteUserGesture(name);
+    refresh();
+    if (!deleted)
+        alertFailure(tr("The gesture password could not be deleted."));
+}
+
 void LocalUsersWt::confirmRemoval()
 {
     const QString name = selectedUser();
-    auto *box =
-        new AlertBox(window(), AlertBox::Warning, DictDef::_instance().alertTitle(DictDef::WarningTitle),
-                     tr("Remove the user %1? Their password and their gesture are deleted with them.").arg(name),
-                     kelvra_base::OkButton | kelvra_base::CancelButton);
+    ask(tr("Remove the user %1? Their password and their gesture are deleted with them.").arg(name), name,
+        &LocalUsersWt::remove);
+}
+
+void LocalUsersWt::ask(const QString &question, const QString &name, void (LocalUsersWt::*action)(const QString &))
+{
+    auto *box = new AlertBox(window(), AlertBox::Warning, DictDef::_instance().alertTitle(DictDef::WarningTitle),
+                             question, kelvra_base::OkButton | kelvra_base::CancelButton);
     box->setAttribute(Qt::WA_DeleteOnClose);
-    connect(box, &QDialog::accepted, this, [this, name] { remove(name); });
+    connect(box, &QDialog::accepted, this, [this, name, action] { (this->*action)(name); });
     box->open();
 }
 
@@ -151,8 +191,7 @@ void LocalUsersWt::remove(const QString &name)
         kelvra_worker::AuditTrail::_instance().write(kelvra_worker::AuditEvent::RemoveUser, name);
     refresh();
     if (answer != UserAdmin::Done)
-        kelvra_worker::SystemAssistant::_instance().messageAlert(
-            DictDef::_instance().alertTitle(DictDef::OperationFailedTitle), UserAdmin::sentence(answer));
+        alertFailure(UserAdmin::sentence(answer));
 }
 
 void LocalUsersWt::changeEvent(QEvent *event)
@@ -161,6 +200,7 @@ void LocalUsersWt::changeEvent(QEvent *event)
         ui->retranslateUi(this);
         model->retranslate();
         showTexts();
+        showSelection();
     }
     QWidget::changeEvent(event);
 }

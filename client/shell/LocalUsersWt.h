@@ -43,8 +43,13 @@ private:
     void showTexts();
     void addUser();
     void setPassword();
+    void setGesture();
+    void confirmGestureDeletion();
+    void deleteGesture(const QString &name);
     void confirmRemoval();
     void remove(const QString &name);
+    /** Asks a question about `name`, which is done on OK. */
+    void ask(const QString &question, const QString &name, void (LocalUsersWt::*action)(const QString &));
     void open(NewPwdDlg *dialog);
 
     const std::unique_ptr<Ui::LocalUsersWt> ui;

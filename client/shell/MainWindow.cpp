@@ -33,10 +33,12 @@ MainWindow::MainWindow(QWidget *parent)
     setAttribute(Qt::WA_StyledBackground);
     ui->setupUi(this);
     fillLanguageBox();
+    ui->phoneBt->hide();
     ui->auditLogWt->setFocus();
     connect(ui->switchUserBt, &QPushButton::clicked, this, &MainWindow::signalSwitchUser);
     connect(ui->getbackPwdBt, &QPushButton::clicked, this, &MainWindow::getBackPassword);
     connect(ui->exportCredentialsBt, &QPushButton::clicked, this, &MainWindow::askForCredentialsFile);
+    connect(ui->phoneBt, &QPushButton::clicked, this, &MainWindow::signalShowPhone);
     connect(ui->quitBt, &QPushButton::clicked, this, &MainWindow::close);
     // Whatever is recorded may have changed what is shown here, by whose hand ever.
     connect(&AuditTrail::_instance(), &AuditTrail::entryAdded, this, &MainWindow::loadUsers);
@@ -60,12 +62,19 @@ void MainWindow::setSession(const SessionInfo &info)
 {
     session = info;
     ui->localUsersWt->setUser(session.user);
+    ui->signInWt->setSession(session);
     showSession();
+}
+
+void MainWindow::offerPhone(bool offered)
+{
+    ui->phoneBt->setVisible(offered);
 }
 
 void MainWindow::loadUsers()
 {
     ui->localUsersWt->refresh();
+    ui->signInWt->refresh();
     showSession();
 }
 
@@ -105,7 +114,6 @@ void MainWindow::showSession()
     ui->currentRole->setText(role());
     ui->loginMethod->setText(wayOfLogin());
     ui->loginSince->setText(session.since.toString(SessionInfo::timeFormat));
-    ui->autoLogin->setText(UserData::_instance().isUserAutoLogin(session.user) ? tr("Automatic") : tr("By hand"));
     showOperations();
 }
 

@@ -21,7 +21,11 @@ public:
     explicit MainWindow(QWidget *parent = nullptr);
     ~MainWindow() override;
 
+    /** The user is also the one that SystemWorker knows. */
     void setSession(const SessionInfo &info);
+
+    /** Whether signalShowPhone can be asked for. */
+    void offerPhone(bool offered);
 
     /** Reads again what the users may do and who they are. */
     void loadUsers();
@@ -29,6 +33,7 @@ public:
 
 signals:
     void signalSwitchUser();
+    void signalShowPhone();
 
 protected:
     void changeEvent(QEvent *event) override;

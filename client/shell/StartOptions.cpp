@@ -17,6 +17,7 @@ const QString versionOption = QStringLiteral("version");
 const QString folderOption = QStringLiteral("data-dir");
 const QString languageOption = QStringLiteral("language");
 const QString userOption = QStringLiteral("user");
+const QString noPhoneOption = QStringLiteral("no-phone");
 const QString tourOption = QStringLiteral("tour");
 
 QStringList languageList()
@@ -41,9 +42,10 @@ void addOptions(QCommandLineParser *parser)
         {languageOption, QStringLiteral("Language of this run: %1.").arg(languageList().join(QStringLiteral(", "))),
          QStringLiteral("ID")},
         {userOption,
-         QStringLiteral("Logs this local user in; the password is read from standard input, up to the first line "
-                        "break."),
+         QStringLiteral("Logs this local user, or this cloud account that has logged in here before, in; the password "
+                        "is read from standard input, up to the first line break."),
          QStringLiteral("NAME")},
+        {noPhoneOption, QStringLiteral("Does not open the phone of the simulated cloud beside the login.")},
         {tourOption,
          QStringLiteral("Walks through the client on a throw-away data folder and puts pictures and a report into "
                         "DIR."),
@@ -90,6 +92,7 @@ std::optional<StartOptions> StartOptions::parse(const QStringList &arguments, QS
     options.version = parser.isSet(versionOption);
     options.dataFolder = QDir::cleanPath(QDir().absoluteFilePath(parser.value(folderOption)));
     options.user = parser.value(userOption);
+    options.noPhone = parser.isSet(noPhoneOption);
     if (parser.isSet(tourOption))
         options.tourFolder = QDir().absoluteFilePath(parser.value(tourOption));
     if (parser.isSet(languageOption)) {

@@ -16,8 +16,9 @@ struct StartOptions
     bool version = false; ///< show the version and end
     QString dataFolder;   ///< absolute; the platform's application-data folder unless another is named
     std::optional<kelvra_worker::Language> language; ///< for this run; without one the saved choice holds
-    QString user;       ///< to be logged in with the password from standard input; empty: nobody
-    QString tourFolder; ///< absolute, where the tour puts its pictures; empty: no tour
+    QString user;         ///< to be logged in with the password from standard input; empty: nobody
+    bool noPhone = false; ///< the simulated phone does not open beside the login
+    QString tourFolder;   ///< absolute, where the tour puts its pictures; empty: no tour
 
     /** `arguments` begin with the name of the program. Without a value `error` holds a sentence for the user. */
     static std::optional<StartOptions> parse(const QStringList &arguments, QString *error);

@@ -80,7 +80,10 @@ QStringList Tour::reportsOf(int index, const TourStage &stage, QString *end) con
     environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
     program.setProcessEnvironment(environment);
     program.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    program.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--data-dir"), data.filePath(stage.folder)});
+    QStringList options{QStringLiteral("--data-dir"), data.filePath(stage.folder)};
+    if (!stage.withPhone)
+        options << QStringLiteral("--no-phone");
+    program.start(QCoreApplication::applicationFilePath(), options);
     *end = failureOf(program);
 
     QStringList reports;

@@ -6,6 +6,7 @@
 #include <QCryptographicHash>
 #include <QEnterEvent>
 #include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
 #include <QPainter>
 #include <QTableView>
@@ -28,7 +29,12 @@ namespace {
 
 constexpr int betweenClicksMs = 1000; // of the events' clock: no two clicks make a double one
 constexpr QChar rememberedChar(0x0001);
-const QString pictureMark = QStringLiteral("#");
+constexpr QChar pictureMark('#');
+constexpr QChar colorMark('~');
+constexpr int vividDifference = 100;         // between the red and the blue of a colour that stands out
+constexpr int dragPixels = 16;               // from one move to the next
+constexpr int beyondPixels = 4;              // past a place that is drawn through
+const QColor desktopColor(0x5b, 0x67, 0x7d); // around windows that stand side by side
 
 QList<QWidget *> windowsFromTheTop()
 {
@@ -99,6 +105,23 @@ QString nameOfPicture(QWidget &widget)
     return QString::fromLatin1(QCryptographicHash::hash(bits, QCryptographicHash::Md5).toHex().left(digits));
 }
 
+QString colorsOf(QWidget &widget)
+{
+    const QImage image = widget.grab().toImage().convertToFormat(QImage::Format_RGB32);
+    bool red = false;
+    bool blue = false;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const QRgb pixel = image.pixel(x, y);
+            red |= qRed(pixel) - qBlue(pixel) > vividDifference;
+            blue |= qBlue(pixel) - qRed(pixel) > vividDifference;
+        }
+    }
+    if (red)
+        return blue ? QStringLiteral("red and blue") : QStringLiteral("red");
+    return blue ? QStringLiteral("blue") : QStringLiteral("grey");
+}
+
 /** Where a click is meant for: a check box takes it on its mark and text only, which stand at its start. */
 QPoint clickPoint(const QWidget &widget)
 {
@@ -141,9 +164,12 @@ QWidget *TourInput::find(const QString &path)
 QString TourInput::seen(const QString &path)
 {
     const bool asPicture = path.endsWith(pictureMark);
-    QWidget *widget = find(asPicture ? path.chopped(pictureMark.size()) : path);
+    const bool asColors = path.endsWith(colorMark);
+    QWidget *widget = find(asPicture || asColors ? path.chopped(1) : path);
     if (!widget)
         return QStringLiteral("not shown");
+    if (asColors)
+        return colorsOf(*widget);
     return asPicture ? nameOfPicture(*widget) : textOf(*widget).simplified();
 }
 
@@ -191,14 +217,52 @@ void TourInput::click(const QString &path)
         return;
     const QPointer<QWidget> window = widget->window();
     const QPoint at = widget->mapTo(window, clickPoint(*widget));
+    pressButton(window, at);
+    if (window && window->windowHandle())
+        mouse(window, at, QEvent::MouseButtonRelease);
+}
+
+void TourInput::pressButton(QWidget *window, const QPoint &at)
+{
     mouse(window, at, QEvent::MouseMove);
     // Where no window manager runs, a click alone would not bring the keys to its window.
     if (!QApplication::activePopupWidget())
         QApplication::setActiveWindow(window);
     clock += betweenClicksMs;
     mouse(window, at, QEvent::MouseButtonPress, true);
-    if (window && window->windowHandle())
-        mouse(window, at, QEvent::MouseButtonRelease);
+}
+
+void TourInput::draw(const QString &pad, const QString &places)
+{
+    QWidget *widget = find(pad);
+    if (!widget || !widget->layout())
+        return;
+    const QPointer<QWidget> window = widget->window();
+    QVector<QPoint> points;
+    for (const QChar place : places) {
+        if (const QLayoutItem *item = widget->layout()->itemAt(place.digitValue()))
+            points.append(widget->mapTo(window, item->geometry().center()));
+    }
+    if (points.isEmpty())
+        return;
+    // A line that follows the pointer asks the cursor, which knows nothing of the events below.
+    QCursor::setPos(window->mapToGlobal(points.constLast()));
+    QPoint at = points.constFirst();
+    pressButton(window, at);
+    for (const QPoint &point : points.mid(1)) {
+        QLineF way(at, point);
+        way.setLength(way.length() + beyondPixels);
+        drag(window, at, way.p2().toPoint());
+        at = way.p2().toPoint();
+    }
+    mouse(window, at, QEvent::MouseButtonRelease);
+}
+
+void TourInput::drag(QWidget *window, const QPoint &from, const QPoint &to)
+{
+    const int moves = 1 + int(QLineF(from, to).length()) / dragPixels;
+    for (int move = 1; move <= moves; ++move)
+        mouse(window, from + (to - from) * move / moves, QEvent::MouseMove, true);
 }
 
 void TourInput::shift(const QString &path, const QPoint &way)
@@ -247,13 +311,16 @@ QPixmap TourInput::picture()
     std::stable_sort(windows.begin(), windows.end(), [isSmaller](const QWidget *one, const QWidget *other) {
         return layerOf(one) != layerOf(other) ? layerOf(one) < layerOf(other) : isSmaller(other, one);
     });
-    QPixmap result = largest->grab();
-    const QPoint origin = largest->mapToGlobal(QPoint(0, 0));
+    QRect whole = largest->geometry();
+    for (const QWidget *window : qAsConst(windows))
+        whole |= layerOf(window) == 0 ? window->geometry() : QRect();
+    const qreal ratio = largest->devicePixelRatioF();
+    QPixmap result(whole.size() * ratio);
+    result.setDevicePixelRatio(ratio);
+    result.fill(desktopColor);
     QPainter painter(&result);
-    for (QWidget *window : qAsConst(windows)) {
-        if (window != largest)
-            painter.drawPixmap(window->mapToGlobal(QPoint(0, 0)) - origin, window->grab());
-    }
+    for (QWidget *window : qAsConst(windows))
+        painter.drawPixmap(window->geometry().topLeft() - whole.topLeft(), window->grab());
     return result;
 }
 

@@ -25,6 +25,8 @@ public:
     /** Moves the pointer onto the middle of a widget. */
     void moveTo(const QString &path);
     void click(const QString &path);
+    /** Draws through widgets in the layout of a pad, the numbers of their places there in a row ("048"). */
+    void draw(const QString &pad, const QString &places);
     // As the window manager does, with the window of a widget.
     void shift(const QString &path, const QPoint &way);
     void minimize(const QString &path);
@@ -32,13 +34,15 @@ public:
     void press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier, const QString &text = QString());
     void type(const QString &text);
 
-    /** What a widget shows, in words. */
+    /** What a widget shows, in words; in colours, or as a code for its picture, where the path ends in ~ or #. */
     static QString seen(const QString &path);
-    /** The largest window with everything that lies over it, at the window's size. */
+    /** The largest window with what stands beside it and everything that lies over it; pop-ups do not widen it. */
     static QPixmap picture();
 
 private:
     static QWidget *find(const QString &path);
+    void pressButton(QWidget *window, const QPoint &at);
+    void drag(QWidget *window, const QPoint &from, const QPoint &to);
     void mouse(QWidget *window, const QPoint &at, QEvent::Type type, bool down = false);
 
     QPointer<QWindow> pointerWindow;

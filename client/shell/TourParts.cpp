@@ -29,6 +29,11 @@ Acts moveTo(const QString &path)
     return {[path](TourDriver &driver) { driver.input().moveTo(path); }};
 }
 
+Acts draw(const QString &gesture)
+{
+    return {[gesture](TourDriver &driver) { driver.input().draw(QStringLiteral("gesturePanel"), gesture); }};
+}
+
 Acts makeRoom(const QString &path)
 {
     return {[path](TourDriver &driver) { driver.input().shift(path, QPoint(-90, 0)); }};

@@ -27,6 +27,8 @@ inline const Acts look;
 
 Acts click(const QString &path);
 Acts moveTo(const QString &path);
+/** Draws a gesture, given as the numbers of its dots. */
+Acts draw(const QString &gesture);
 /** Takes the window to the left, so that what pops up at its right has room on a small screen. */
 Acts makeRoom(const QString &path);
 Acts minimize(const QString &path);
@@ -46,9 +48,9 @@ bool changed(const QString &seen, const QString &before);
 
 // Looks
 
-inline const QString methods = QStringLiteral("{label}; {defaultUserBt/title}; {newUserBt/title}; {saasUserBt}");
+inline const QString methods = QStringLiteral("{label}; {defaultUserBt/title}; {newUserBt/title}; {saasUserBt/title}");
 inline const QString methodTexts =
-    QStringLiteral("Welcome to login; Use Default Superuser; Create New Superuser; not shown");
+    QStringLiteral("Welcome to login; Use Default Superuser; Create New Superuser; Login Nimbra App User");
 inline const QString form =
     QStringLiteral("name: {localUserWt/userName}, password: {localPwdWt/pwd}, button: {localLoginBt}");
 inline const QString alert = QStringLiteral("{alertBox/text}");

@@ -1,5 +1,7 @@
 #include "client/shell/TourScript.h"
 
+#include "client/shell/TourCloud.h"
+#include "client/shell/TourGesture.h"
 #include "client/shell/TourLocalUser.h"
 #include "client/shell/TourSuperUser.h"
 
@@ -7,7 +9,7 @@ namespace kelvra_client {
 
 QVector<TourStage> TourScript::stages()
 {
-    return TourLocalUser::stages() + TourSuperUser::stages();
+    return TourLocalUser::stages() + TourSuperUser::stages() + TourGesture::stages() + TourCloud::stages();
 }
 
 } // namespace kelvra_client

@@ -29,6 +29,7 @@ struct TourStage
 {
     QString folder;
     QVector<TourStep> steps;
+    bool withPhone = false; ///< the phone of the simulated cloud stands beside the login
 };
 
 /** What the tour does, in the order of the pictures: the stages of each subject, which a class of its own holds. */

@@ -58,8 +58,10 @@ QVariant UsersModel::data(const QModelIndex &index, int role) const
         if (role == SortRole)
             return user.lastLogin;
         return user.lastLogin.isValid() ? user.lastLogin.toString(SessionInfo::timeFormat) : tr("never");
-    default:
+    case AutoLoginColumn:
         return user.autoLogin ? tr("on") : tr("off");
+    default:
+        return user.gesture ? tr("set", "gesture") : tr("not set", "gesture");
     }
 }
 
@@ -74,6 +76,8 @@ QVariant UsersModel::headerData(int section, Qt::Orientation orientation, int ro
         return tr("Last login");
     case AutoLoginColumn:
         return tr("Automatic login");
+    case GestureColumn:
+        return tr("Gesture");
     default:
         return {};
     }

@@ -13,7 +13,7 @@ class UsersModel : public QAbstractTableModel
     Q_OBJECT
 
 public:
-    enum Column { NameColumn, LastLoginColumn, AutoLoginColumn, ColumnCount };
+    enum Column { NameColumn, LastLoginColumn, AutoLoginColumn, GestureColumn, ColumnCount };
 
     static constexpr int SortRole = Qt::UserRole;
 
@@ -23,6 +23,7 @@ public:
     void setUsers(const QVector<kelvra_data::OrdinaryUser> &list);
 
     QString name(int row) const { return users.at(row).name; }
+    bool hasGesture(int row) const { return users.at(row).gesture; }
     /** Row of that user, -1 when there is none. */
     int rowOf(const QString &name) const;
 

@@ -214,6 +214,10 @@
         <comment>between details</comment>
         <translation>，</translation>
     </message>
+    <message>
+        <source>by cloud account</source>
+        <translation>使用云账号</translation>
+    </message>
 </context>
 <context>
     <name>kelvra_client::ClientShell</name>
@@ -256,6 +260,26 @@
         <source>Local users are managed by the superuser of this client.</source>
         <translation>本地用户由本客户端的超级用户管理。</translation>
     </message>
+    <message>
+        <source>Set gesture</source>
+        <translation>设置手势</translation>
+    </message>
+    <message>
+        <source>Delete gesture</source>
+        <translation>删除手势</translation>
+    </message>
+    <message>
+        <source>Change gesture</source>
+        <translation>修改手势</translation>
+    </message>
+    <message>
+        <source>Delete the gesture password of %1?</source>
+        <translation>确定删除 %1 的手势密码吗？</translation>
+    </message>
+    <message>
+        <source>The gesture password could not be deleted.</source>
+        <translation>手势密码未能删除。</translation>
+    </message>
 </context>
 <context>
     <name>kelvra_client::MainWindow</name>
@@ -280,20 +304,8 @@
         <translation>登录时间</translation>
     </message>
     <message>
-        <source>Next login on this computer</source>
-        <translation>下次在本机登录</translation>
-    </message>
-    <message>
         <source>User</source>
         <translation>普通用户</translation>
-    </message>
-    <message>
-        <source>Automatic</source>
-        <translation>自动登录</translation>
-    </message>
-    <message>
-        <source>By hand</source>
-        <translation>手动登录</translation>
     </message>
     <message>
         <source>Cloud account</source>
@@ -335,6 +347,10 @@
         <source>Export login credentials</source>
         <translation>导出登录凭证</translation>
     </message>
+    <message>
+        <source>Simulated phone</source>
+        <translation>模拟手机</translation>
+    </message>
 </context>
 <context>
     <name>kelvra_client::NewPwdDlg</name>
@@ -364,10 +380,244 @@
     </message>
 </context>
 <context>
+    <name>kelvra_client::PhoneWindow</name>
+    <message>
+        <source>Nimbra phone (simulated)</source>
+        <translation>Nimbra 手机（模拟）</translation>
+    </message>
+    <message>
+        <source>Nimbra phone</source>
+        <translation>Nimbra 手机</translation>
+    </message>
+    <message>
+        <source>simulated</source>
+        <translation>模拟</translation>
+    </message>
+    <message>
+        <source>Close the phone</source>
+        <translation>关闭手机</translation>
+    </message>
+    <message>
+        <source>Account on this phone</source>
+        <translation>此手机上的账号</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>手机号</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>复制</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>密码</translation>
+    </message>
+    <message>
+        <source>Unlock</source>
+        <translation>解锁</translation>
+    </message>
+    <message>
+        <source>Edit accounts file</source>
+        <translation>编辑账号文件</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation>重新读取</translation>
+    </message>
+    <message>
+        <source>No message. Choose PIN in the login window, enter the number above and click “Get PIN”.</source>
+        <translation>没有短信。请在登录窗口选择验证码登录，输入上面的手机号，然后获取验证码。</translation>
+    </message>
+    <message>
+        <source>QR code</source>
+        <translation>二维码</translation>
+    </message>
+    <message>
+        <source>Let the cloud refuse this code</source>
+        <translation>让云端拒绝此二维码</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>确认</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Illegal operation</source>
+        <translation>非法操作</translation>
+    </message>
+    <message>
+        <source>Illegal IP</source>
+        <translation>非法 IP</translation>
+    </message>
+    <message>
+        <source>Network of the computer: on</source>
+        <translation>电脑网络：已连接</translation>
+    </message>
+    <message>
+        <source>Network of the computer: off</source>
+        <translation>电脑网络：已断开</translation>
+    </message>
+    <message>
+        <source>Off, whatever the client asks the cloud for fails after a few seconds.</source>
+        <translation>断开后，客户端对云端的每个请求都会在几秒后失败。</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>Scan as %1</source>
+        <translation>以 %1 扫码</translation>
+    </message>
+    <message>
+        <source>Scan</source>
+        <translation>扫码</translation>
+    </message>
+    <message>
+        <source>No code on show. Choose QR Code in the login window.</source>
+        <translation>当前没有二维码。请在登录窗口选择二维码登录。</translation>
+    </message>
+    <message>
+        <source>The login window shows a code.</source>
+        <translation>登录窗口正在显示二维码。</translation>
+    </message>
+    <message>
+        <source>Log in on the computer as %1? The computer waits for your answer.</source>
+        <translation>在电脑上以 %1 登录吗？电脑正在等待您的确认。</translation>
+    </message>
+    <message>
+        <source>Confirmed. The computer logs in as %1.</source>
+        <translation>已确认，电脑正在以 %1 登录。</translation>
+    </message>
+    <message>
+        <source>Cancelled. Click the arrows in the login window to get a new code.</source>
+        <translation>已取消。点击登录窗口中的箭头可获取新二维码。</translation>
+    </message>
+    <message>
+        <source>Refused by the cloud. Click the arrows in the login window to get a new code.</source>
+        <translation>已被云端拒绝。点击登录窗口中的箭头可获取新二维码。</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation>剩余 %1</translation>
+    </message>
+    <message>
+        <source>expired</source>
+        <translation>已过期</translation>
+    </message>
+    <message>
+        <source>Locked, %1 left</source>
+        <translation>已锁定，剩余 %1</translation>
+    </message>
+    <message>
+        <source>No editor opens by itself; edit %1.</source>
+        <translation>没有可自动打开的编辑器，请自行编辑 %1。</translation>
+    </message>
+    <message>
+        <source>Copied</source>
+        <translation>已复制</translation>
+    </message>
+    <message>
+        <source>SMS to %1</source>
+        <translation>发送至 %1 的短信</translation>
+    </message>
+    <message>
+        <source>SMS</source>
+        <translation>短信</translation>
+    </message>
+</context>
+<context>
     <name>kelvra_client::SetPwdDlg</name>
     <message>
         <source>Set password</source>
         <translation>设置密码</translation>
+    </message>
+</context>
+<context>
+    <name>kelvra_client::SignInWt</name>
+    <message>
+        <source>Sign-in</source>
+        <translation>登录设置</translation>
+    </message>
+    <message>
+        <source>Gesture password</source>
+        <translation>手势密码</translation>
+    </message>
+    <message>
+        <source>Set</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>Verify</source>
+        <translation>验证</translation>
+    </message>
+    <message>
+        <source>Automatic login</source>
+        <translation>自动登录</translation>
+    </message>
+    <message>
+        <source>set</source>
+        <translation>已设置</translation>
+    </message>
+    <message>
+        <source>not set</source>
+        <translation>未设置</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>修改</translation>
+    </message>
+    <message>
+        <source>No gesture password has been set.</source>
+        <translation>尚未设置手势密码。</translation>
+    </message>
+    <message>
+        <source>Only local users have a gesture password; this is a cloud account.</source>
+        <translation>只有本地用户才有手势密码，当前是云账号。</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>自动</translation>
+    </message>
+    <message>
+        <source>By hand</source>
+        <translation>手动</translation>
+    </message>
+    <message>
+        <source>Choose “Automatic Logon” when you log in with this account the next time.</source>
+        <translation>请在下次用此账号登录时勾选“自动登录”。</translation>
+    </message>
+    <message>
+        <source>Delete your gesture password? You then log in with your password only.</source>
+        <translation>确定删除您的手势密码吗？之后只能使用密码登录。</translation>
+    </message>
+    <message>
+        <source>The gesture password has been deleted.</source>
+        <translation>手势密码已删除。</translation>
+    </message>
+    <message>
+        <source>The gesture password could not be deleted.</source>
+        <translation>手势密码未能删除。</translation>
+    </message>
+    <message>
+        <source>The gesture password has been verified.</source>
+        <translation>手势密码验证通过。</translation>
+    </message>
+    <message>
+        <source>The gesture password was not verified.</source>
+        <translation>手势密码未通过验证。</translation>
+    </message>
+    <message>
+        <source>The automatic login could not be changed.</source>
+        <translation>自动登录未能更改。</translation>
     </message>
 </context>
 <context>
@@ -418,6 +668,20 @@
     <message>
         <source>Automatic login</source>
         <translation>自动登录</translation>
+    </message>
+    <message>
+        <source>set</source>
+        <comment>gesture</comment>
+        <translation>已设置</translation>
+    </message>
+    <message>
+        <source>not set</source>
+        <comment>gesture</comment>
+        <translation>未设置</translation>
+    </message>
+    <message>
+        <source>Gesture</source>
+        <translation>手势</translation>
     </message>
 </context>
 <context>
@@ -517,12 +781,118 @@
 <context>
     <name>kelvra_saas</name>
     <message>
-        <source>The cloud service is not available in this installation</source>
-        <translation>本安装未提供云服务</translation>
+        <source>The account is locked; minutes until it is unlocked: %1</source>
+        <translation>账号已锁定，距解锁还有（分钟）：%1</translation>
+    </message>
+    <message>
+        <source>The mobile phone number is not valid</source>
+        <translation>手机号码无效</translation>
+    </message>
+    <message>
+        <source>The cloud service does not answer; check the network connection</source>
+        <translation>云服务没有响应，请检查网络连接</translation>
+    </message>
+    <message>
+        <source>The simulated cloud cannot use its file cloud_accounts.ini; correct the file or delete it</source>
+        <translation>模拟云服务无法使用文件 cloud_accounts.ini，请更正或删除该文件</translation>
+    </message>
+    <message>
+        <source>There is no account with this mobile phone number</source>
+        <translation>该手机号码没有对应的账号</translation>
+    </message>
+    <message>
+        <source>The verification code is wrong; attempts left: %1</source>
+        <translation>验证码错误，剩余尝试次数：%1</translation>
+    </message>
+    <message>
+        <source>The verification code is no longer valid; get a new one</source>
+        <translation>验证码已失效，请重新获取</translation>
+    </message>
+    <message>
+        <source>The login has not been confirmed on the phone</source>
+        <translation>尚未在手机上确认登录</translation>
+    </message>
+    <message>
+        <source>The QR code is no longer valid</source>
+        <translation>二维码已失效</translation>
+    </message>
+    <message>
+        <source>No account has logged in by QR code</source>
+        <translation>没有账号通过二维码登录</translation>
+    </message>
+    <message>
+        <source>No automatic login is stored for this account</source>
+        <translation>该账号没有保存自动登录</translation>
+    </message>
+    <message>
+        <source>The stored login is no longer valid; log in once more</source>
+        <translation>保存的登录已失效，请重新登录</translation>
+    </message>
+    <message>
+        <source>This computer is new to the account; log in by verification code or QR code</source>
+        <translation>该账号首次在本机登录，请使用验证码或二维码登录</translation>
+    </message>
+    <message>
+        <source>The password is wrong; attempts left: %1</source>
+        <translation>密码错误，剩余尝试次数：%1</translation>
     </message>
     <message>
         <source>The cloud service has refused the request (code %1, %2)</source>
         <translation>云服务拒绝了该请求（代码 %1，%2）</translation>
+    </message>
+</context>
+<context>
+    <name>kelvra_saas::AccountsFile</name>
+    <message>
+        <source>The file %1 cannot be read.</source>
+        <translation>文件 %1 无法读取。</translation>
+    </message>
+    <message>
+        <source>The file %1 holds something else than text; correct it or delete it.</source>
+        <translation>文件 %1 含有非文本内容，请更正或删除。</translation>
+    </message>
+    <message>
+        <source>Line %1 of the file %2 makes no sense: %3. Correct it or delete the file.</source>
+        <translation>文件 %2 的第 %1 行有误：%3。请更正该行或删除该文件。</translation>
+    </message>
+    <message>
+        <source>The account %1 in the file %2 has no password. Correct it or delete the file.</source>
+        <translation>文件 %2 中的账号 %1 没有密码。请更正或删除该文件。</translation>
+    </message>
+    <message>
+        <source>The file %1 holds no account; correct it or delete it.</source>
+        <translation>文件 %1 中没有账号，请更正或删除。</translation>
+    </message>
+    <message>
+        <source>a phone number has eleven digits, the first of them 1</source>
+        <translation>手机号码为 11 位数字，且首位为 1</translation>
+    </message>
+    <message>
+        <source>this phone number is there twice</source>
+        <translation>该手机号码重复出现</translation>
+    </message>
+    <message>
+        <source>only [phone number], name=, password= and comments are known</source>
+        <translation>只能使用 [手机号码]、name=、password= 和注释</translation>
+    </message>
+    <message>
+        <source>a phone number in brackets must come first</source>
+        <translation>前面必须有方括号中的手机号码</translation>
+    </message>
+    <message>
+        <source>a password has at least %1 characters and no spaces</source>
+        <translation>密码至少 %1 个字符，且不含空格</translation>
+    </message>
+    <message>
+        <source>%1 is there twice</source>
+        <translation>%1 重复出现</translation>
+    </message>
+</context>
+<context>
+    <name>kelvra_saas::SmsCodes</name>
+    <message>
+        <source>[Nimbra] %1 is your verification code. It is valid for %2 minutes; do not pass it on.</source>
+        <translation>【Nimbra】您的验证码为 %1，%2 分钟内有效，请勿告知他人。</translation>
     </message>
 </context>
 <context>

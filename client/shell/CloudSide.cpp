@@ -1,0 +1,127 @@
+#include "client/shell/CloudSide.h"
+
+#include "client/kelvra_data/Store.h"
+#include "client/kelvra_saas/SaasSetup.h"
+#include "client/shell/PhoneWindow.h"
+#include "host/ZCommon/MoveableDialog.h"
+#include "host/kelvra_data/UserData.h"
+#include "host/kelvra_saas/LoginWorker.h"
+#include "host/kelvra_worker/Customization.h"
+
+#include <QApplication>
+
+using kelvra_data::Store;
+using kelvra_data::UserData;
+using kelvra_saas::CloudSimulation;
+using kelvra_saas::SaasSetup;
+
+namespace kelvra_client {
+
+namespace {
+
+const QByteArray tokenPlace = QByteArrayLiteral("cloud token");
+
+QWidget *loginDialog()
+{
+    for (QWidget *widget : QApplication::topLevelWidgets()) {
+        if (widget->isVisible() && qobject_cast<ZCOMMON::MoveableDialog *>(widget))
+            return widget;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+CloudSide::CloudSide(QObject *parent)
+    : QObject(parent)
+{
+}
+
+CloudSide::~CloudSide()
+{
+    phone.reset();
+    SaasSetup::close();
+}
+
+void CloudSide::open(const QString &folder)
+{
+    SaasSetup::setSealing(
+        [](const QString &text) { return Store::_instance().seal(text, tokenPlace); },
+        [](const QByteArray &sealed, QString *text) { return Store::_instance().unseal(sealed, tokenPlace, text); });
+    SaasSetup::setDataFolder(folder);
+}
+
+bool CloudSide::isEnabled()
+{
+    return kelvra_worker::Customization::_instance().getCustomizeInfo().cloudLoginEnabled;
+}
+
+// Of those who are no ordinary users there is one local superuser; the others are accounts.
+bool CloudSide::isAccount(const QString &name)
+{
+    auto &userData = UserData::_instance();
+    return userData.isSuperUser(name) && userData.getSuperUserInfo(name).userName != name;
+}
+
+bool CloudSide::isAutoLoginStored()
+{
+    const QString account = kelvra_saas::LoginWorker::_instance().getRecentlyLoggedInAccount();
+    return UserData::_instance().isUserAutoLogin(account) && SaasSetup::isAutoLoginStored(account);
+}
+
+void CloudSide::settleAutoLogin(const QString &account)
+{
+    if (!UserData::_instance().isUserAutoLogin(account))
+        kelvra_saas::LoginWorker::_instance().cancelAccountAutoLogin(account);
+}
+
+bool CloudSide::hasPhone() const
+{
+    return isEnabled() && SaasSetup::simulation();
+}
+
+PhoneWindow *CloudSide::preparedPhone()
+{
+    if (!phone && hasPhone()) {
+        CloudSimulation *cloud = SaasSetup::simulation();
+        phone = std::make_unique<PhoneWindow>(*cloud);
+        connect(cloud, &CloudSimulation::signalMessageArrived, this, &CloudSide::comeBack);
+        connect(cloud, &CloudSimulation::signalCodeChanged, this, [this, cloud] {
+            const QString code = cloud->codeOnShow().id;
+            if (code.isEmpty() || code == lastCode)
+                return;
+            lastCode = code;
+            comeBack();
+        });
+    }
+    return phone.get();
+}
+
+void CloudSide::showPhone()
+{
+    if (PhoneWindow *window = preparedPhone())
+        window->showBeside(nullptr);
+}
+
+void CloudSide::accompanyLogin()
+{
+    loginOpen = true;
+    comeBack();
+}
+
+void CloudSide::comeBack()
+{
+    if (!loginOpen || !phoneKept)
+        return;
+    if (PhoneWindow *window = preparedPhone())
+        window->showBeside(loginDialog());
+}
+
+void CloudSide::leaveLogin()
+{
+    loginOpen = false;
+    if (phone)
+        phone->hide();
+}
+
+} // namespace kelvra_client
