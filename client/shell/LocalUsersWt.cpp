@@ -26,9 +26,9 @@ namespace kelvra_client {
 
 namespace {
 
-constexpr int nameColumnWidth = 232;      // pixels
-constexpr int lastLoginColumnWidth = 160; // pixels
-constexpr int autoLoginColumnWidth = 124; // pixels
+constexpr int nameColumnWidth = 180;      // pixels
+constexpr int lastLoginColumnWidth = 176; // pixels
+constexpr int autoLoginColumnWidth = 160; // pixels
 
 void alertFailure(const QString &sentence)
 {

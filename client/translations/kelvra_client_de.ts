@@ -5,923 +5,942 @@
     <name>AuditEvent</name>
     <message>
         <source>login success</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmeldung erfolgreich</translation>
     </message>
     <message>
         <source>login failure</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmeldung gescheitert</translation>
     </message>
     <message>
         <source>lock</source>
-        <translation type="unfinished"></translation>
+        <translation>Sperre</translation>
     </message>
     <message>
         <source>add gesture</source>
-        <translation type="unfinished"></translation>
+        <translation>Geste hinzugefügt</translation>
     </message>
     <message>
         <source>update gesture</source>
-        <translation type="unfinished"></translation>
+        <translation>Geste geändert</translation>
     </message>
     <message>
         <source>delete gesture</source>
-        <translation type="unfinished"></translation>
+        <translation>Geste gelöscht</translation>
     </message>
     <message>
         <source>open automatic login</source>
-        <translation type="unfinished"></translation>
+        <translation>Auto-Anmeldung ein</translation>
     </message>
     <message>
         <source>cancel automatic login</source>
-        <translation type="unfinished"></translation>
+        <translation>Auto-Anmeldung aus</translation>
     </message>
     <message>
         <source>get back password</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort abgerufen</translation>
     </message>
     <message>
         <source>reset password</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort zurückgesetzt</translation>
     </message>
     <message>
         <source>export login credentials</source>
-        <translation type="unfinished"></translation>
+        <translation>Zugangsdaten exportiert</translation>
     </message>
     <message>
         <source>create user</source>
-        <translation type="unfinished"></translation>
+        <translation>Benutzer angelegt</translation>
     </message>
     <message>
         <source>add user</source>
-        <translation type="unfinished"></translation>
+        <translation>Benutzer hinzugefügt</translation>
     </message>
     <message>
         <source>remove user</source>
-        <translation type="unfinished"></translation>
+        <translation>Benutzer entfernt</translation>
     </message>
     <message>
         <source>set password</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort geändert</translation>
     </message>
     <message>
         <source>superuser replaced</source>
-        <translation type="unfinished"></translation>
+        <translation>Superuser ersetzt</translation>
     </message>
 </context>
 <context>
     <name>DictDef</name>
     <message>
         <source>Operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorgang fehlgeschlagen</translation>
     </message>
     <message>
         <source>Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Warnung</translation>
     </message>
     <message>
         <source>Information</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinweis</translation>
     </message>
     <message>
         <source>Who was your favourite teacher?</source>
-        <translation type="unfinished"></translation>
+        <translation>Wer war Ihre liebste Lehrkraft?</translation>
     </message>
     <message>
         <source>What is your mother&apos;s name?</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie heißt Ihre Mutter?</translation>
     </message>
     <message>
         <source>What is your father&apos;s name?</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie heißt Ihr Vater?</translation>
     </message>
     <message>
         <source>In which town were you born?</source>
-        <translation type="unfinished"></translation>
+        <translation>In welchem Ort sind Sie geboren?</translation>
     </message>
     <message>
         <source>Which was your first school?</source>
-        <translation type="unfinished"></translation>
+        <translation>Welche war Ihre erste Schule?</translation>
     </message>
     <message>
         <source>Who was your best childhood friend?</source>
-        <translation type="unfinished"></translation>
+        <translation>Wer war Ihr bester Kindheitsfreund?</translation>
     </message>
     <message>
         <source>What was your first pet&apos;s name?</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie hieß Ihr erstes Haustier?</translation>
     </message>
     <message>
         <source>What is your favourite book?</source>
-        <translation type="unfinished"></translation>
+        <translation>Was ist Ihr Lieblingsbuch?</translation>
     </message>
     <message>
         <source>What is your favourite film?</source>
-        <translation type="unfinished"></translation>
+        <translation>Was ist Ihr Lieblingsfilm?</translation>
     </message>
     <message>
         <source>What is your favourite dish?</source>
-        <translation type="unfinished"></translation>
+        <translation>Was ist Ihr Lieblingsgericht?</translation>
     </message>
     <message>
         <source>What make was your first car?</source>
-        <translation type="unfinished"></translation>
+        <translation>Welche Marke hatte Ihr erstes Auto?</translation>
     </message>
     <message>
         <source>What was your first job?</source>
-        <translation type="unfinished"></translation>
+        <translation>Was war Ihre erste Arbeitsstelle?</translation>
     </message>
 </context>
 <context>
     <name>kelvra_base::AlertBox</name>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>
     <name>kelvra_base::CapsLockToolTipHandler</name>
     <message>
         <source>Caps Lock is on</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Feststelltaste ist aktiviert</translation>
+    </message>
+</context>
+<context>
+    <name>kelvra_base::CommonDialog</name>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Maximize</source>
+        <translation>Maximieren</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>Minimieren</translation>
     </message>
 </context>
 <context>
     <name>kelvra_client::AddUserDlg</name>
     <message>
         <source>Add user</source>
-        <translation type="unfinished"></translation>
+        <translation>Benutzer hinzufügen</translation>
     </message>
 </context>
 <context>
     <name>kelvra_client::AuditLogWt</name>
     <message>
         <source>Audit log</source>
-        <translation type="unfinished"></translation>
+        <translation>Audit-Protokoll</translation>
     </message>
     <message>
         <source>Entries: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Einträge: %1</translation>
     </message>
     <message>
         <source>The newest %1 entries</source>
-        <translation type="unfinished"></translation>
+        <translation>Die neuesten %1 Einträge</translation>
     </message>
     <message>
         <source>Nothing has been recorded yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wurde noch nichts aufgezeichnet.</translation>
     </message>
 </context>
 <context>
     <name>kelvra_client::AuditModel</name>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit</translation>
     </message>
     <message>
         <source>Event</source>
-        <translation type="unfinished"></translation>
+        <translation>Ereignis</translation>
     </message>
     <message>
         <source>User</source>
-        <translation type="unfinished"></translation>
+        <translation>Benutzer</translation>
     </message>
     <message>
         <source>Details</source>
-        <translation type="unfinished"></translation>
+        <translation>Einzelheiten</translation>
     </message>
     <message>
         <source>by gesture</source>
-        <translation type="unfinished"></translation>
+        <translation>per Geste</translation>
     </message>
     <message>
         <source>by password</source>
-        <translation type="unfinished"></translation>
+        <translation>per Passwort</translation>
     </message>
     <message>
         <source>by cloud account</source>
-        <translation type="unfinished"></translation>
+        <translation>per Cloud-Konto</translation>
     </message>
     <message>
         <source>automatic login from now on</source>
-        <translation type="unfinished"></translation>
+        <translation>künftig automatische Anmeldung</translation>
     </message>
     <message>
         <source>for %1 seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>für %1 Sekunden</translation>
     </message>
     <message>
         <source>, </source>
         <comment>between details</comment>
-        <translation type="unfinished"></translation>
+        <translation>, </translation>
     </message>
 </context>
 <context>
     <name>kelvra_client::ClientShell</name>
     <message>
         <source>The file %1 cannot be written; the client goes on without it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei %1 kann nicht geschrieben werden; der Client arbeitet ohne sie weiter.</translation>
     </message>
 </context>
 <context>
     <name>kelvra_client::LocalUsersWt</name>
     <message>
         <source>Local users</source>
-        <translation type="unfinished"></translation>
+        <translation>Lokale Benutzer</translation>
     </message>
     <message>
         <source>Add user</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinzufügen</translation>
     </message>
     <message>
         <source>Set password</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort</translation>
     </message>
     <message>
         <source>Set gesture</source>
-        <translation type="unfinished"></translation>
+        <translation>Geste setzen</translation>
     </message>
     <message>
         <source>Delete gesture</source>
-        <translation type="unfinished"></translation>
+        <translation>Geste löschen</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernen</translation>
     </message>
     <message>
         <source>Change gesture</source>
-        <translation type="unfinished"></translation>
+        <translation>Geste ändern</translation>
     </message>
     <message>
         <source>Local users are managed by the superuser of this client.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lokale Benutzer werden vom Superuser dieses Clients verwaltet.</translation>
     </message>
     <message>
         <source>Local users are managed by the superuser. Ask %1 to add or remove a user, or to give you a new password.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lokale Benutzer werden vom Superuser verwaltet. Wenden Sie sich an %1, um Benutzer hinzufügen oder entfernen zu lassen oder ein neues Passwort zu erhalten.</translation>
     </message>
     <message>
         <source>There are no other local users yet. Add one, and they can log in with their own name and password.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt noch keine weiteren lokalen Benutzer. Wen Sie hinzufügen, der kann sich mit eigenem Namen und Passwort anmelden.</translation>
     </message>
     <message>
         <source>Delete the gesture password of %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Gestenpasswort von %1 löschen?</translation>
     </message>
     <message>
         <source>The gesture password could not be deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Gestenpasswort konnte nicht gelöscht werden.</translation>
     </message>
     <message>
         <source>Remove the user %1? Their password and their gesture are deleted with them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Benutzer %1 entfernen? Passwort und Geste werden ebenfalls gelöscht.</translation>
     </message>
 </context>
 <context>
     <name>kelvra_client::MainWindow</name>
     <message>
         <source>Kelvra Client</source>
-        <translation type="unfinished"></translation>
+        <translation>Kelvra-Client</translation>
     </message>
     <message>
         <source>Simulated phone</source>
-        <translation type="unfinished"></translation>
+        <translation>Simuliertes Telefon</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Beenden</translation>
     </message>
     <message>
         <source>Current user</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktueller Benutzer</translation>
     </message>
     <message>
         <source>Logged in with</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmeldeart</translation>
     </message>
     <message>
         <source>Since</source>
-        <translation type="unfinished"></translation>
+        <translation>Angemeldet seit</translation>
     </message>
     <message>
         <source>Account</source>
-        <translation type="unfinished"></translation>
+        <translation>Konto</translation>
     </message>
     <message>
         <source>Switch user</source>
-        <translation type="unfinished"></translation>
+        <translation>Benutzer wechseln</translation>
     </message>
     <message>
         <source>Get back password</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort abrufen</translation>
     </message>
     <message>
         <source>Export login credentials</source>
-        <translation type="unfinished"></translation>
+        <translation>Zugangsdaten exportieren</translation>
     </message>
     <message>
         <source>Superuser</source>
-        <translation type="unfinished"></translation>
+        <translation>Superuser</translation>
     </message>
     <message>
         <source>User</source>
-        <translation type="unfinished"></translation>
+        <translation>Benutzer</translation>
     </message>
     <message>
         <source>This user has been removed</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Benutzer wurde entfernt</translation>
     </message>
     <message>
         <source>Cloud account</source>
-        <translation type="unfinished"></translation>
+        <translation>Cloud-Konto</translation>
     </message>
     <message>
         <source>Local user, by password</source>
-        <translation type="unfinished"></translation>
+        <translation>Lokaler Benutzer, per Passwort</translation>
     </message>
     <message>
         <source>Local user, by gesture</source>
-        <translation type="unfinished"></translation>
+        <translation>Lokaler Benutzer, per Geste</translation>
     </message>
     <message>
         <source>Local user</source>
-        <translation type="unfinished"></translation>
+        <translation>Lokaler Benutzer</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Sprache</translation>
     </message>
 </context>
 <context>
     <name>kelvra_client::NewPwdDlg</name>
     <message>
         <source>User name</source>
-        <translation type="unfinished"></translation>
+        <translation>Benutzername</translation>
     </message>
     <message>
         <source>New password</source>
-        <translation type="unfinished"></translation>
+        <translation>Neues Passwort</translation>
     </message>
     <message>
         <source>Confirm password</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort bestätigen</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>The two passwords are not the same.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die beiden Passwörter stimmen nicht überein.</translation>
     </message>
 </context>
 <context>
     <name>kelvra_client::PhoneWindow</name>
     <message>
         <source>Nimbra phone (simulated)</source>
-        <translation type="unfinished"></translation>
+        <translation>Nimbra-Telefon (simuliert)</translation>
     </message>
     <message>
         <source>Nimbra phone</source>
-        <translation type="unfinished"></translation>
+        <translation>Nimbra-Telefon</translation>
     </message>
     <message>
         <source>simulated</source>
-        <translation type="unfinished"></translation>
+        <translation>simuliert</translation>
     </message>
     <message>
         <source>Close the phone</source>
-        <translation type="unfinished"></translation>
+        <translation>Telefon schließen</translation>
     </message>
     <message>
         <source>Account on this phone</source>
-        <translation type="unfinished"></translation>
+        <translation>Konto auf diesem Telefon</translation>
     </message>
     <message>
         <source>Number</source>
-        <translation type="unfinished"></translation>
+        <translation>Nummer</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopieren</translation>
     </message>
     <message>
         <source>Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort</translation>
     </message>
     <message>
         <source>Unlock</source>
-        <translation type="unfinished"></translation>
+        <translation>Entsperren</translation>
     </message>
     <message>
         <source>Edit accounts file</source>
-        <translation type="unfinished"></translation>
+        <translation>Konten bearbeiten</translation>
     </message>
     <message>
         <source>Reload</source>
-        <translation type="unfinished"></translation>
+        <translation>Neu laden</translation>
     </message>
     <message>
         <source>No message. Choose PIN in the login window, enter the number above and click “Get PIN”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Nachricht. Wählen Sie im Anmeldefenster „PIN“, geben Sie die obige Nummer ein und klicken Sie auf „PIN anfordern“.</translation>
     </message>
     <message>
         <source>QR code</source>
-        <translation type="unfinished"></translation>
+        <translation>QR-Code</translation>
     </message>
     <message>
         <source>Let the cloud refuse this code</source>
-        <translation type="unfinished"></translation>
+        <translation>Diesen Code von der Cloud ablehnen lassen</translation>
     </message>
     <message>
         <source>Confirm</source>
-        <translation type="unfinished"></translation>
+        <translation>Bestätigen</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Illegal operation</source>
-        <translation type="unfinished"></translation>
+        <translation>Ungültige Aktion</translation>
     </message>
     <message>
         <source>Illegal IP</source>
-        <translation type="unfinished"></translation>
+        <translation>Ungültige IP</translation>
     </message>
     <message>
         <source>Network of the computer: on</source>
-        <translation type="unfinished"></translation>
+        <translation>Netzwerk des Computers: ein</translation>
     </message>
     <message>
         <source>Network of the computer: off</source>
-        <translation type="unfinished"></translation>
+        <translation>Netzwerk des Computers: aus</translation>
     </message>
     <message>
         <source>Off, whatever the client asks the cloud for fails after a few seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wenn aus, scheitert jede Anfrage des Clients an die Cloud nach einigen Sekunden.</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>fehlt</translation>
     </message>
     <message>
         <source>Scan as %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Als %1 scannen</translation>
     </message>
     <message>
         <source>Scan</source>
-        <translation type="unfinished"></translation>
+        <translation>Scannen</translation>
     </message>
     <message>
         <source>SMS to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>SMS an %1</translation>
     </message>
     <message>
         <source>SMS</source>
-        <translation type="unfinished"></translation>
+        <translation>SMS</translation>
     </message>
     <message>
         <source>No code on show. Choose QR Code in the login window.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Code zu sehen. Wählen Sie im Anmeldefenster „QR-Code“.</translation>
     </message>
     <message>
         <source>The login window shows a code.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Anmeldefenster zeigt einen Code.</translation>
     </message>
     <message>
         <source>Log in on the computer as %1? The computer waits for your answer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Am Computer als %1 anmelden? Der Computer wartet auf Ihre Antwort.</translation>
     </message>
     <message>
         <source>Confirmed. The computer logs in as %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bestätigt. Der Computer meldet sich als %1 an.</translation>
     </message>
     <message>
         <source>Cancelled. Click the arrows in the login window to get a new code.</source>
-        <translation type="unfinished"></translation>
+        <translation>Abgebrochen. Klicken Sie im Anmeldefenster auf die Pfeile, um einen neuen Code zu erhalten.</translation>
     </message>
     <message>
         <source>Refused by the cloud. Click the arrows in the login window to get a new code.</source>
-        <translation type="unfinished"></translation>
+        <translation>Von der Cloud abgelehnt. Klicken Sie im Anmeldefenster auf die Pfeile, um einen neuen Code zu erhalten.</translation>
     </message>
     <message>
         <source>%1 left</source>
-        <translation type="unfinished"></translation>
+        <translation>noch %1</translation>
     </message>
     <message>
         <source>expired</source>
-        <translation type="unfinished"></translation>
+        <translation>abgelaufen</translation>
     </message>
     <message>
         <source>Locked, %1 left</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesperrt, noch %1</translation>
     </message>
     <message>
         <source>No editor opens by itself; edit %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es öffnet sich kein Editor; bearbeiten Sie %1.</translation>
     </message>
     <message>
         <source>Copied</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopiert</translation>
     </message>
 </context>
 <context>
     <name>kelvra_client::SetPwdDlg</name>
     <message>
         <source>Set password</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort ändern</translation>
     </message>
 </context>
 <context>
     <name>kelvra_client::SignInWt</name>
     <message>
         <source>Sign-in</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmeldung</translation>
     </message>
     <message>
         <source>Gesture password</source>
-        <translation type="unfinished"></translation>
+        <translation>Gestenpasswort</translation>
     </message>
     <message>
         <source>Set</source>
-        <translation type="unfinished"></translation>
+        <translation>Setzen</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Löschen</translation>
     </message>
     <message>
         <source>Verify</source>
-        <translation type="unfinished"></translation>
+        <translation>Prüfen</translation>
     </message>
     <message>
         <source>Automatic login</source>
-        <translation type="unfinished"></translation>
+        <translation>Auto-Anmeldung</translation>
     </message>
     <message>
         <source>set</source>
-        <translation type="unfinished"></translation>
+        <translation>festgelegt</translation>
     </message>
     <message>
         <source>not set</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht festgelegt</translation>
     </message>
     <message>
         <source>Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Ändern</translation>
     </message>
     <message>
         <source>No gesture password has been set.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es ist kein Gestenpasswort festgelegt.</translation>
     </message>
     <message>
         <source>Only local users have a gesture password; this is a cloud account.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur lokale Benutzer haben ein Gestenpasswort; dies ist ein Cloud-Konto.</translation>
     </message>
     <message>
         <source>Automatic</source>
-        <translation type="unfinished"></translation>
+        <translation>Automatisch</translation>
     </message>
     <message>
         <source>By hand</source>
-        <translation type="unfinished"></translation>
+        <translation>Manuell</translation>
     </message>
     <message>
         <source>Choose “Automatic Logon” when you log in with this account the next time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie „Auto-Anmeldung“, wenn Sie sich das nächste Mal mit diesem Konto anmelden.</translation>
     </message>
     <message>
         <source>Delete your gesture password? You then log in with your password only.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihr Gestenpasswort löschen? Danach melden Sie sich nur noch mit Ihrem Passwort an.</translation>
     </message>
     <message>
         <source>The gesture password has been deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Gestenpasswort wurde gelöscht.</translation>
     </message>
     <message>
         <source>The gesture password could not be deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Gestenpasswort konnte nicht gelöscht werden.</translation>
     </message>
     <message>
         <source>The gesture password has been verified.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Gestenpasswort wurde bestätigt.</translation>
     </message>
     <message>
         <source>The gesture password was not verified.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Gestenpasswort wurde nicht bestätigt.</translation>
     </message>
     <message>
         <source>The automatic login could not be changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die automatische Anmeldung konnte nicht geändert werden.</translation>
     </message>
 </context>
 <context>
     <name>kelvra_client::SingleInstance</name>
     <message>
         <source>The data folder %1 cannot be written to.</source>
-        <translation type="unfinished"></translation>
+        <translation>In den Datenordner %1 kann nicht geschrieben werden.</translation>
     </message>
     <message>
         <source>The client is already running on the data folder %1, but it does not answer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Client läuft bereits mit dem Datenordner %1, antwortet aber nicht.</translation>
     </message>
     <message>
         <source>The data folder %1 cannot be created.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Datenordner %1 kann nicht angelegt werden.</translation>
     </message>
     <message>
         <source>The data folder %1 is not a folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Datenordner %1 ist kein Ordner.</translation>
     </message>
     <message>
         <source>The data folder %1 cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Datenordner %1 kann nicht gelesen werden.</translation>
     </message>
 </context>
 <context>
     <name>kelvra_client::UsersModel</name>
     <message>
         <source>never</source>
-        <translation type="unfinished"></translation>
+        <translation>nie</translation>
     </message>
     <message>
         <source>on</source>
-        <translation type="unfinished"></translation>
+        <translation>ja</translation>
     </message>
     <message>
         <source>off</source>
-        <translation type="unfinished"></translation>
+        <translation>nein</translation>
     </message>
     <message>
         <source>set</source>
         <comment>gesture</comment>
-        <translation type="unfinished"></translation>
+        <translation>festgelegt</translation>
     </message>
     <message>
         <source>not set</source>
         <comment>gesture</comment>
-        <translation type="unfinished"></translation>
+        <translation>nicht festgelegt</translation>
     </message>
     <message>
         <source>User name</source>
-        <translation type="unfinished"></translation>
+        <translation>Benutzername</translation>
     </message>
     <message>
         <source>Last login</source>
-        <translation type="unfinished"></translation>
+        <translation>Letzter Zugriff</translation>
     </message>
     <message>
         <source>Automatic login</source>
-        <translation type="unfinished"></translation>
+        <translation>Automatisch</translation>
     </message>
     <message>
         <source>Gesture</source>
-        <translation type="unfinished"></translation>
+        <translation>Geste</translation>
     </message>
 </context>
 <context>
     <name>kelvra_data::Store</name>
     <message>
         <source>The data folder %1 cannot be created.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Datenordner %1 kann nicht angelegt werden.</translation>
     </message>
     <message>
         <source>The data folder %1 cannot be written to.</source>
-        <translation type="unfinished"></translation>
+        <translation>In den Datenordner %1 kann nicht geschrieben werden.</translation>
     </message>
     <message>
         <source>The database %1 cannot be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datenbank %1 kann nicht geöffnet werden.</translation>
     </message>
     <message>
         <source>The database %1 cannot be read; another program may be using it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datenbank %1 kann nicht gelesen werden; möglicherweise verwendet sie ein anderes Programm.</translation>
     </message>
     <message>
         <source>The database %1 is damaged.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datenbank %1 ist beschädigt.</translation>
     </message>
     <message>
         <source>The database %1 belongs to another program.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datenbank %1 gehört zu einem anderen Programm.</translation>
     </message>
     <message>
         <source>The database %1 was written by a newer version of this program.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datenbank %1 wurde von einer neueren Version dieses Programms geschrieben.</translation>
     </message>
     <message>
         <source>The key file %1 is missing; the database cannot be opened without it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Schlüsseldatei %1 fehlt; ohne sie kann die Datenbank nicht geöffnet werden.</translation>
     </message>
     <message>
         <source>The key file %1 cannot be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Schlüsseldatei %1 kann nicht geschrieben werden.</translation>
     </message>
     <message>
         <source>The key file %1 is damaged: it does not have %2 bytes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Schlüsseldatei %1 ist beschädigt: Sie ist nicht %2 Byte groß.</translation>
     </message>
     <message>
         <source>The key file %1 cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Schlüsseldatei %1 kann nicht gelesen werden.</translation>
     </message>
     <message>
         <source>The key file does not belong to the database beside it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Schlüsseldatei gehört nicht zur Datenbank im selben Ordner.</translation>
     </message>
     <message>
         <source>The database cannot be written to.</source>
-        <translation type="unfinished"></translation>
+        <translation>In die Datenbank kann nicht geschrieben werden.</translation>
     </message>
 </context>
 <context>
     <name>kelvra_data::UserAdmin</name>
     <message>
         <source>Please enter a user name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte geben Sie einen Benutzernamen ein.</translation>
     </message>
     <message>
         <source>The user name must not contain spaces or control characters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Benutzername darf keine Leer- oder Steuerzeichen enthalten.</translation>
     </message>
     <message>
         <source>The user name must not be longer than %1 characters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Benutzername darf nicht länger als %1 Zeichen sein.</translation>
     </message>
     <message>
         <source>This user name is already in use.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Benutzername ist bereits vergeben.</translation>
     </message>
     <message>
         <source>Please enter a password.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte geben Sie ein Passwort ein.</translation>
     </message>
     <message>
         <source>The password must not contain spaces or control characters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Passwort darf keine Leer- oder Steuerzeichen enthalten.</translation>
     </message>
     <message>
         <source>The password must not be longer than %1 characters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Passwort darf nicht länger als %1 Zeichen sein.</translation>
     </message>
     <message>
         <source>This user no longer exists.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diesen Benutzer gibt es nicht mehr.</translation>
     </message>
     <message>
         <source>The change could not be stored.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Änderung konnte nicht gespeichert werden.</translation>
     </message>
 </context>
 <context>
     <name>kelvra_saas</name>
     <message>
         <source>The account is locked; minutes until it is unlocked: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Konto ist gesperrt; Minuten bis zur Entsperrung: %1</translation>
     </message>
     <message>
         <source>The mobile phone number is not valid</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Mobilnummer ist ungültig</translation>
     </message>
     <message>
         <source>The cloud service does not answer; check the network connection</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Cloud-Dienst antwortet nicht; prüfen Sie die Netzwerkverbindung</translation>
     </message>
     <message>
         <source>The simulated cloud cannot use its file cloud_accounts.ini; correct the file or delete it</source>
-        <translation type="unfinished"></translation>
+        <translation>Die simulierte Cloud kann ihre Datei cloud_accounts.ini nicht verwenden; korrigieren oder löschen Sie die Datei</translation>
     </message>
     <message>
         <source>There is no account with this mobile phone number</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt kein Konto mit dieser Mobilnummer</translation>
     </message>
     <message>
         <source>The verification code is wrong; attempts left: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Bestätigungscode ist falsch; verbleibende Versuche: %1</translation>
     </message>
     <message>
         <source>The verification code is no longer valid; get a new one</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Bestätigungscode ist nicht mehr gültig; fordern Sie einen neuen an</translation>
     </message>
     <message>
         <source>The login has not been confirmed on the phone</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Anmeldung wurde am Telefon nicht bestätigt</translation>
     </message>
     <message>
         <source>The QR code is no longer valid</source>
-        <translation type="unfinished"></translation>
+        <translation>Der QR-Code ist nicht mehr gültig</translation>
     </message>
     <message>
         <source>No account has logged in by QR code</source>
-        <translation type="unfinished"></translation>
+        <translation>Es hat sich kein Konto per QR-Code angemeldet</translation>
     </message>
     <message>
         <source>No automatic login is stored for this account</source>
-        <translation type="unfinished"></translation>
+        <translation>Für dieses Konto ist keine automatische Anmeldung gespeichert</translation>
     </message>
     <message>
         <source>The stored login is no longer valid; log in once more</source>
-        <translation type="unfinished"></translation>
+        <translation>Die gespeicherte Anmeldung ist nicht mehr gültig; melden Sie sich erneut an</translation>
     </message>
     <message>
         <source>This computer is new to the account; log in by verification code or QR code</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Computer ist für das Konto neu; melden Sie sich per Bestätigungscode oder QR-Code an</translation>
     </message>
     <message>
         <source>The password is wrong; attempts left: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Passwort ist falsch; verbleibende Versuche: %1</translation>
     </message>
     <message>
         <source>The cloud service has refused the request (code %1, %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Cloud-Dienst hat die Anfrage abgelehnt (Code %1, %2)</translation>
     </message>
 </context>
 <context>
     <name>kelvra_saas::AccountsFile</name>
     <message>
         <source>The file %1 cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei %1 kann nicht gelesen werden.</translation>
     </message>
     <message>
         <source>The file %1 holds something else than text; correct it or delete it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei %1 enthält etwas anderes als Text; korrigieren oder löschen Sie sie.</translation>
     </message>
     <message>
         <source>Line %1 of the file %2 makes no sense: %3. Correct it or delete the file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile %1 der Datei %2 ist fehlerhaft: %3. Korrigieren Sie sie oder löschen Sie die Datei.</translation>
     </message>
     <message>
         <source>The account %1 in the file %2 has no password. Correct it or delete the file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Konto %1 in der Datei %2 hat kein Passwort. Korrigieren Sie es oder löschen Sie die Datei.</translation>
     </message>
     <message>
         <source>The file %1 holds no account; correct it or delete it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei %1 enthält kein Konto; korrigieren oder löschen Sie sie.</translation>
     </message>
     <message>
         <source>a phone number has eleven digits, the first of them 1</source>
-        <translation type="unfinished"></translation>
+        <translation>eine Telefonnummer hat elf Ziffern, die erste davon ist 1</translation>
     </message>
     <message>
         <source>this phone number is there twice</source>
-        <translation type="unfinished"></translation>
+        <translation>diese Telefonnummer kommt doppelt vor</translation>
     </message>
     <message>
         <source>only [phone number], name=, password= and comments are known</source>
-        <translation type="unfinished"></translation>
+        <translation>bekannt sind nur [Telefonnummer], name=, password= und Kommentare</translation>
     </message>
     <message>
         <source>a phone number in brackets must come first</source>
-        <translation type="unfinished"></translation>
+        <translation>zuerst muss eine Telefonnummer in eckigen Klammern stehen</translation>
     </message>
     <message>
         <source>a password has at least %1 characters and no spaces</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Passwort hat mindestens %1 Zeichen und keine Leerzeichen</translation>
     </message>
     <message>
         <source>%1 is there twice</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kommt doppelt vor</translation>
     </message>
 </context>
 <context>
     <name>kelvra_saas::SmsCodes</name>
     <message>
         <source>[Nimbra] %1 is your verification code. It is valid for %2 minutes; do not pass it on.</source>
-        <translation type="unfinished"></translation>
+        <translation>[Nimbra] %1 ist Ihr Bestätigungscode. Er gilt %2 Minuten; geben Sie ihn nicht weiter.</translation>
     </message>
 </context>
 <context>
     <name>kelvra_worker::AuditTrail</name>
     <message>
         <source>The audit log cannot be written; events go unrecorded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Audit-Protokoll kann nicht geschrieben werden; Ereignisse werden nicht aufgezeichnet.</translation>
     </message>
 </context>
 <context>
     <name>kelvra_worker::IniFile</name>
     <message>
         <source>The file %1 cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei %1 kann nicht gelesen werden.</translation>
     </message>
     <message>
         <source>The file %1 is damaged; correct it or delete it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei %1 ist beschädigt; korrigieren oder löschen Sie sie.</translation>
     </message>
     <message>
         <source>The value of %1 in the file %2 makes no sense; correct it or delete it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Wert von %1 in der Datei %2 ist fehlerhaft; korrigieren oder löschen Sie ihn.</translation>
     </message>
 </context>
 <context>
     <name>kelvra_worker::UiSettings</name>
     <message>
         <source>Settings cannot be written to %1; changes last until the client ends.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen können nicht in %1 gespeichert werden; Änderungen gelten bis zum Ende des Clients.</translation>
     </message>
 </context>
 </TS>

@@ -5,923 +5,942 @@
     <name>AuditEvent</name>
     <message>
         <source>login success</source>
-        <translation type="unfinished"></translation>
+        <translation>sesión iniciada</translation>
     </message>
     <message>
         <source>login failure</source>
-        <translation type="unfinished"></translation>
+        <translation>inicio de sesión fallido</translation>
     </message>
     <message>
         <source>lock</source>
-        <translation type="unfinished"></translation>
+        <translation>bloqueo</translation>
     </message>
     <message>
         <source>add gesture</source>
-        <translation type="unfinished"></translation>
+        <translation>gesto añadido</translation>
     </message>
     <message>
         <source>update gesture</source>
-        <translation type="unfinished"></translation>
+        <translation>gesto cambiado</translation>
     </message>
     <message>
         <source>delete gesture</source>
-        <translation type="unfinished"></translation>
+        <translation>gesto eliminado</translation>
     </message>
     <message>
         <source>open automatic login</source>
-        <translation type="unfinished"></translation>
+        <translation>inicio auto. activado</translation>
     </message>
     <message>
         <source>cancel automatic login</source>
-        <translation type="unfinished"></translation>
+        <translation>inicio auto. anulado</translation>
     </message>
     <message>
         <source>get back password</source>
-        <translation type="unfinished"></translation>
+        <translation>contraseña recuperada</translation>
     </message>
     <message>
         <source>reset password</source>
-        <translation type="unfinished"></translation>
+        <translation>contraseña restablecida</translation>
     </message>
     <message>
         <source>export login credentials</source>
-        <translation type="unfinished"></translation>
+        <translation>credenciales exportadas</translation>
     </message>
     <message>
         <source>create user</source>
-        <translation type="unfinished"></translation>
+        <translation>usuario creado</translation>
     </message>
     <message>
         <source>add user</source>
-        <translation type="unfinished"></translation>
+        <translation>usuario añadido</translation>
     </message>
     <message>
         <source>remove user</source>
-        <translation type="unfinished"></translation>
+        <translation>usuario eliminado</translation>
     </message>
     <message>
         <source>set password</source>
-        <translation type="unfinished"></translation>
+        <translation>contraseña cambiada</translation>
     </message>
     <message>
         <source>superuser replaced</source>
-        <translation type="unfinished"></translation>
+        <translation>superusuario sustituido</translation>
     </message>
 </context>
 <context>
     <name>DictDef</name>
     <message>
         <source>Operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Error en la operación</translation>
     </message>
     <message>
         <source>Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Advertencia</translation>
     </message>
     <message>
         <source>Information</source>
-        <translation type="unfinished"></translation>
+        <translation>Información</translation>
     </message>
     <message>
         <source>Who was your favourite teacher?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Quién fue su profesor favorito?</translation>
     </message>
     <message>
         <source>What is your mother&apos;s name?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Cómo se llama su madre?</translation>
     </message>
     <message>
         <source>What is your father&apos;s name?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Cómo se llama su padre?</translation>
     </message>
     <message>
         <source>In which town were you born?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿En qué localidad nació?</translation>
     </message>
     <message>
         <source>Which was your first school?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Cuál fue su primer colegio?</translation>
     </message>
     <message>
         <source>Who was your best childhood friend?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Su mejor amigo de la infancia?</translation>
     </message>
     <message>
         <source>What was your first pet&apos;s name?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Nombre de su primera mascota?</translation>
     </message>
     <message>
         <source>What is your favourite book?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Cuál es su libro favorito?</translation>
     </message>
     <message>
         <source>What is your favourite film?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Cuál es su película favorita?</translation>
     </message>
     <message>
         <source>What is your favourite dish?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Cuál es su plato favorito?</translation>
     </message>
     <message>
         <source>What make was your first car?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿De qué marca fue su primer coche?</translation>
     </message>
     <message>
         <source>What was your first job?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Cuál fue su primer trabajo?</translation>
     </message>
 </context>
 <context>
     <name>kelvra_base::AlertBox</name>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceptar</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
 </context>
 <context>
     <name>kelvra_base::CapsLockToolTipHandler</name>
     <message>
         <source>Caps Lock is on</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloq Mayús está activado</translation>
+    </message>
+</context>
+<context>
+    <name>kelvra_base::CommonDialog</name>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Maximize</source>
+        <translation>Maximizar</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>Minimizar</translation>
     </message>
 </context>
 <context>
     <name>kelvra_client::AddUserDlg</name>
     <message>
         <source>Add user</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir usuario</translation>
     </message>
 </context>
 <context>
     <name>kelvra_client::AuditLogWt</name>
     <message>
         <source>Audit log</source>
-        <translation type="unfinished"></translation>
+        <translation>Registro de auditoría</translation>
     </message>
     <message>
         <source>Entries: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Entradas: %1</translation>
     </message>
     <message>
         <source>The newest %1 entries</source>
-        <translation type="unfinished"></translation>
+        <translation>Las %1 entradas más recientes</translation>
     </message>
     <message>
         <source>Nothing has been recorded yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún no se ha registrado nada.</translation>
     </message>
 </context>
 <context>
     <name>kelvra_client::AuditModel</name>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Hora</translation>
     </message>
     <message>
         <source>Event</source>
-        <translation type="unfinished"></translation>
+        <translation>Evento</translation>
     </message>
     <message>
         <source>User</source>
-        <translation type="unfinished"></translation>
+        <translation>Usuario</translation>
     </message>
     <message>
         <source>Details</source>
-        <translation type="unfinished"></translation>
+        <translation>Detalles</translation>
     </message>
     <message>
         <source>by gesture</source>
-        <translation type="unfinished"></translation>
+        <translation>con gesto</translation>
     </message>
     <message>
         <source>by password</source>
-        <translation type="unfinished"></translation>
+        <translation>con contraseña</translation>
     </message>
     <message>
         <source>by cloud account</source>
-        <translation type="unfinished"></translation>
+        <translation>con cuenta en la nube</translation>
     </message>
     <message>
         <source>automatic login from now on</source>
-        <translation type="unfinished"></translation>
+        <translation>inicio automático a partir de ahora</translation>
     </message>
     <message>
         <source>for %1 seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>durante %1 segundos</translation>
     </message>
     <message>
         <source>, </source>
         <comment>between details</comment>
-        <translation type="unfinished"></translation>
+        <translation>, </translation>
     </message>
 </context>
 <context>
     <name>kelvra_client::ClientShell</name>
     <message>
         <source>The file %1 cannot be written; the client goes on without it.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede escribir el archivo %1; el cliente continúa sin él.</translation>
     </message>
 </context>
 <context>
     <name>kelvra_client::LocalUsersWt</name>
     <message>
         <source>Local users</source>
-        <translation type="unfinished"></translation>
+        <translation>Usuarios locales</translation>
     </message>
     <message>
         <source>Add user</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir</translation>
     </message>
     <message>
         <source>Set password</source>
-        <translation type="unfinished"></translation>
+        <translation>Contraseña</translation>
     </message>
     <message>
         <source>Set gesture</source>
-        <translation type="unfinished"></translation>
+        <translation>Definir gesto</translation>
     </message>
     <message>
         <source>Delete gesture</source>
-        <translation type="unfinished"></translation>
+        <translation>Borrar gesto</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar</translation>
     </message>
     <message>
         <source>Change gesture</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambiar gesto</translation>
     </message>
     <message>
         <source>Local users are managed by the superuser of this client.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los usuarios locales los gestiona el superusuario de este cliente.</translation>
     </message>
     <message>
         <source>Local users are managed by the superuser. Ask %1 to add or remove a user, or to give you a new password.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los usuarios locales los gestiona el superusuario. Pida a %1 que añada o elimine un usuario, o que le asigne una nueva contraseña.</translation>
     </message>
     <message>
         <source>There are no other local users yet. Add one, and they can log in with their own name and password.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún no hay otros usuarios locales. Añada uno y podrá iniciar sesión con su propio nombre y contraseña.</translation>
     </message>
     <message>
         <source>Delete the gesture password of %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Eliminar la contraseña gestual de %1?</translation>
     </message>
     <message>
         <source>The gesture password could not be deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido eliminar la contraseña gestual.</translation>
     </message>
     <message>
         <source>Remove the user %1? Their password and their gesture are deleted with them.</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Eliminar el usuario %1? También se eliminarán su contraseña y su gesto.</translation>
     </message>
 </context>
 <context>
     <name>kelvra_client::MainWindow</name>
     <message>
         <source>Kelvra Client</source>
-        <translation type="unfinished"></translation>
+        <translation>Cliente Kelvra</translation>
     </message>
     <message>
         <source>Simulated phone</source>
-        <translation type="unfinished"></translation>
+        <translation>Teléfono simulado</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Salir</translation>
     </message>
     <message>
         <source>Current user</source>
-        <translation type="unfinished"></translation>
+        <translation>Usuario actual</translation>
     </message>
     <message>
         <source>Logged in with</source>
-        <translation type="unfinished"></translation>
+        <translation>Modo de acceso</translation>
     </message>
     <message>
         <source>Since</source>
-        <translation type="unfinished"></translation>
+        <translation>Sesión desde</translation>
     </message>
     <message>
         <source>Account</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuenta</translation>
     </message>
     <message>
         <source>Switch user</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambiar de usuario</translation>
     </message>
     <message>
         <source>Get back password</source>
-        <translation type="unfinished"></translation>
+        <translation>Recuperar contraseña</translation>
     </message>
     <message>
         <source>Export login credentials</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar credenciales</translation>
     </message>
     <message>
         <source>Superuser</source>
-        <translation type="unfinished"></translation>
+        <translation>Superusuario</translation>
     </message>
     <message>
         <source>User</source>
-        <translation type="unfinished"></translation>
+        <translation>Usuario</translation>
     </message>
     <message>
         <source>This user has been removed</source>
-        <translation type="unfinished"></translation>
+        <translation>Este usuario se ha eliminado</translation>
     </message>
     <message>
         <source>Cloud account</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuenta en la nube</translation>
     </message>
     <message>
         <source>Local user, by password</source>
-        <translation type="unfinished"></translation>
+        <translation>Usuario local, con contraseña</translation>
     </message>
     <message>
         <source>Local user, by gesture</source>
-        <translation type="unfinished"></translation>
+        <translation>Usuario local, con gesto</translation>
     </message>
     <message>
         <source>Local user</source>
-        <translation type="unfinished"></translation>
+        <translation>Usuario local</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Idioma</translation>
     </message>
 </context>
 <context>
     <name>kelvra_client::NewPwdDlg</name>
     <message>
         <source>User name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre de usuario</translation>
     </message>
     <message>
         <source>New password</source>
-        <translation type="unfinished"></translation>
+        <translation>Nueva contraseña</translation>
     </message>
     <message>
         <source>Confirm password</source>
-        <translation type="unfinished"></translation>
+        <translation>Confirmar contraseña</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceptar</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>The two passwords are not the same.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las dos contraseñas no coinciden.</translation>
     </message>
 </context>
 <context>
     <name>kelvra_client::PhoneWindow</name>
     <message>
         <source>Nimbra phone (simulated)</source>
-        <translation type="unfinished"></translation>
+        <translation>Teléfono Nimbra (simulado)</translation>
     </message>
     <message>
         <source>Nimbra phone</source>
-        <translation type="unfinished"></translation>
+        <translation>Teléfono Nimbra</translation>
     </message>
     <message>
         <source>simulated</source>
-        <translation type="unfinished"></translation>
+        <translation>simulado</translation>
     </message>
     <message>
         <source>Close the phone</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrar el teléfono</translation>
     </message>
     <message>
         <source>Account on this phone</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuenta en este teléfono</translation>
     </message>
     <message>
         <source>Number</source>
-        <translation type="unfinished"></translation>
+        <translation>Número</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiar</translation>
     </message>
     <message>
         <source>Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Contraseña</translation>
     </message>
     <message>
         <source>Unlock</source>
-        <translation type="unfinished"></translation>
+        <translation>Desbloquear</translation>
     </message>
     <message>
         <source>Edit accounts file</source>
-        <translation type="unfinished"></translation>
+        <translation>Editar cuentas</translation>
     </message>
     <message>
         <source>Reload</source>
-        <translation type="unfinished"></translation>
+        <translation>Recargar</translation>
     </message>
     <message>
         <source>No message. Choose PIN in the login window, enter the number above and click “Get PIN”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ningún mensaje. Elija “PIN” en la ventana de inicio de sesión, escriba el número anterior y haga clic en “Obtener PIN”.</translation>
     </message>
     <message>
         <source>QR code</source>
-        <translation type="unfinished"></translation>
+        <translation>Código QR</translation>
     </message>
     <message>
         <source>Let the cloud refuse this code</source>
-        <translation type="unfinished"></translation>
+        <translation>Hacer que la nube rechace este código</translation>
     </message>
     <message>
         <source>Confirm</source>
-        <translation type="unfinished"></translation>
+        <translation>Confirmar</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Illegal operation</source>
-        <translation type="unfinished"></translation>
+        <translation>Acción no válida</translation>
     </message>
     <message>
         <source>Illegal IP</source>
-        <translation type="unfinished"></translation>
+        <translation>IP no válida</translation>
     </message>
     <message>
         <source>Network of the computer: on</source>
-        <translation type="unfinished"></translation>
+        <translation>Red del ordenador: activada</translation>
     </message>
     <message>
         <source>Network of the computer: off</source>
-        <translation type="unfinished"></translation>
+        <translation>Red del ordenador: desactivada</translation>
     </message>
     <message>
         <source>Off, whatever the client asks the cloud for fails after a few seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si está desactivada, todo lo que el cliente pida a la nube fallará a los pocos segundos.</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>no hay</translation>
     </message>
     <message>
         <source>Scan as %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Escanear como %1</translation>
     </message>
     <message>
         <source>Scan</source>
-        <translation type="unfinished"></translation>
+        <translation>Escanear</translation>
     </message>
     <message>
         <source>SMS to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>SMS a %1</translation>
     </message>
     <message>
         <source>SMS</source>
-        <translation type="unfinished"></translation>
+        <translation>SMS</translation>
     </message>
     <message>
         <source>No code on show. Choose QR Code in the login window.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ningún código visible. Elija “QR” en la ventana de inicio de sesión.</translation>
     </message>
     <message>
         <source>The login window shows a code.</source>
-        <translation type="unfinished"></translation>
+        <translation>La ventana de inicio de sesión muestra un código.</translation>
     </message>
     <message>
         <source>Log in on the computer as %1? The computer waits for your answer.</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Iniciar sesión en el ordenador como %1? El ordenador espera su respuesta.</translation>
     </message>
     <message>
         <source>Confirmed. The computer logs in as %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Confirmado. El ordenador inicia sesión como %1.</translation>
     </message>
     <message>
         <source>Cancelled. Click the arrows in the login window to get a new code.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelado. Haga clic en las flechas de la ventana de inicio de sesión para obtener un código nuevo.</translation>
     </message>
     <message>
         <source>Refused by the cloud. Click the arrows in the login window to get a new code.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechazado por la nube. Haga clic en las flechas de la ventana de inicio de sesión para obtener un código nuevo.</translation>
     </message>
     <message>
         <source>%1 left</source>
-        <translation type="unfinished"></translation>
+        <translation>quedan %1</translation>
     </message>
     <message>
         <source>expired</source>
-        <translation type="unfinished"></translation>
+        <translation>caducado</translation>
     </message>
     <message>
         <source>Locked, %1 left</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloqueada: %1</translation>
     </message>
     <message>
         <source>No editor opens by itself; edit %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se abre ningún editor; edite %1.</translation>
     </message>
     <message>
         <source>Copied</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiado</translation>
     </message>
 </context>
 <context>
     <name>kelvra_client::SetPwdDlg</name>
     <message>
         <source>Set password</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambiar contraseña</translation>
     </message>
 </context>
 <context>
     <name>kelvra_client::SignInWt</name>
     <message>
         <source>Sign-in</source>
-        <translation type="unfinished"></translation>
+        <translation>Inicio de sesión</translation>
     </message>
     <message>
         <source>Gesture password</source>
-        <translation type="unfinished"></translation>
+        <translation>Contraseña gestual</translation>
     </message>
     <message>
         <source>Set</source>
-        <translation type="unfinished"></translation>
+        <translation>Definir</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Borrar</translation>
     </message>
     <message>
         <source>Verify</source>
-        <translation type="unfinished"></translation>
+        <translation>Verificar</translation>
     </message>
     <message>
         <source>Automatic login</source>
-        <translation type="unfinished"></translation>
+        <translation>Inicio automático</translation>
     </message>
     <message>
         <source>set</source>
-        <translation type="unfinished"></translation>
+        <translation>definida</translation>
     </message>
     <message>
         <source>not set</source>
-        <translation type="unfinished"></translation>
+        <translation>no definida</translation>
     </message>
     <message>
         <source>Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambiar</translation>
     </message>
     <message>
         <source>No gesture password has been set.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ninguna contraseña gestual definida.</translation>
     </message>
     <message>
         <source>Only local users have a gesture password; this is a cloud account.</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo los usuarios locales tienen contraseña gestual; esta es una cuenta en la nube.</translation>
     </message>
     <message>
         <source>Automatic</source>
-        <translation type="unfinished"></translation>
+        <translation>Automático</translation>
     </message>
     <message>
         <source>By hand</source>
-        <translation type="unfinished"></translation>
+        <translation>Manual</translation>
     </message>
     <message>
         <source>Choose “Automatic Logon” when you log in with this account the next time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Marque “Inicio automático” la próxima vez que inicie sesión con esta cuenta.</translation>
     </message>
     <message>
         <source>Delete your gesture password? You then log in with your password only.</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Eliminar su contraseña gestual? Después solo podrá iniciar sesión con su contraseña.</translation>
     </message>
     <message>
         <source>The gesture password has been deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>La contraseña gestual se ha eliminado.</translation>
     </message>
     <message>
         <source>The gesture password could not be deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido eliminar la contraseña gestual.</translation>
     </message>
     <message>
         <source>The gesture password has been verified.</source>
-        <translation type="unfinished"></translation>
+        <translation>La contraseña gestual se ha verificado.</translation>
     </message>
     <message>
         <source>The gesture password was not verified.</source>
-        <translation type="unfinished"></translation>
+        <translation>La contraseña gestual no se ha verificado.</translation>
     </message>
     <message>
         <source>The automatic login could not be changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido cambiar el inicio automático.</translation>
     </message>
 </context>
 <context>
     <name>kelvra_client::SingleInstance</name>
     <message>
         <source>The data folder %1 cannot be written to.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede escribir en la carpeta de datos %1.</translation>
     </message>
     <message>
         <source>The client is already running on the data folder %1, but it does not answer.</source>
-        <translation type="unfinished"></translation>
+        <translation>El cliente ya se está ejecutando con la carpeta de datos %1, pero no responde.</translation>
     </message>
     <message>
         <source>The data folder %1 cannot be created.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede crear la carpeta de datos %1.</translation>
     </message>
     <message>
         <source>The data folder %1 is not a folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>La carpeta de datos %1 no es una carpeta.</translation>
     </message>
     <message>
         <source>The data folder %1 cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede leer la carpeta de datos %1.</translation>
     </message>
 </context>
 <context>
     <name>kelvra_client::UsersModel</name>
     <message>
         <source>never</source>
-        <translation type="unfinished"></translation>
+        <translation>nunca</translation>
     </message>
     <message>
         <source>on</source>
-        <translation type="unfinished"></translation>
+        <translation>sí</translation>
     </message>
     <message>
         <source>off</source>
-        <translation type="unfinished"></translation>
+        <translation>no</translation>
     </message>
     <message>
         <source>set</source>
         <comment>gesture</comment>
-        <translation type="unfinished"></translation>
+        <translation>definido</translation>
     </message>
     <message>
         <source>not set</source>
         <comment>gesture</comment>
-        <translation type="unfinished"></translation>
+        <translation>no definido</translation>
     </message>
     <message>
         <source>User name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre de usuario</translation>
     </message>
     <message>
         <source>Last login</source>
-        <translation type="unfinished"></translation>
+        <translation>Último acceso</translation>
     </message>
     <message>
         <source>Automatic login</source>
-        <translation type="unfinished"></translation>
+        <translation>Automático</translation>
     </message>
     <message>
         <source>Gesture</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesto</translation>
     </message>
 </context>
 <context>
     <name>kelvra_data::Store</name>
     <message>
         <source>The data folder %1 cannot be created.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede crear la carpeta de datos %1.</translation>
     </message>
     <message>
         <source>The data folder %1 cannot be written to.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede escribir en la carpeta de datos %1.</translation>
     </message>
     <message>
         <source>The database %1 cannot be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede abrir la base de datos %1.</translation>
     </message>
     <message>
         <source>The database %1 cannot be read; another program may be using it.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede leer la base de datos %1; es posible que otro programa la esté utilizando.</translation>
     </message>
     <message>
         <source>The database %1 is damaged.</source>
-        <translation type="unfinished"></translation>
+        <translation>La base de datos %1 está dañada.</translation>
     </message>
     <message>
         <source>The database %1 belongs to another program.</source>
-        <translation type="unfinished"></translation>
+        <translation>La base de datos %1 pertenece a otro programa.</translation>
     </message>
     <message>
         <source>The database %1 was written by a newer version of this program.</source>
-        <translation type="unfinished"></translation>
+        <translation>La base de datos %1 se creó con una versión más reciente de este programa.</translation>
     </message>
     <message>
         <source>The key file %1 is missing; the database cannot be opened without it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Falta el archivo de clave %1; sin él no se puede abrir la base de datos.</translation>
     </message>
     <message>
         <source>The key file %1 cannot be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede escribir el archivo de clave %1.</translation>
     </message>
     <message>
         <source>The key file %1 is damaged: it does not have %2 bytes.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo de clave %1 está dañado: no tiene %2 bytes.</translation>
     </message>
     <message>
         <source>The key file %1 cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede leer el archivo de clave %1.</translation>
     </message>
     <message>
         <source>The key file does not belong to the database beside it.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo de clave no corresponde a la base de datos de la misma carpeta.</translation>
     </message>
     <message>
         <source>The database cannot be written to.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede escribir en la base de datos.</translation>
     </message>
 </context>
 <context>
     <name>kelvra_data::UserAdmin</name>
     <message>
         <source>Please enter a user name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Escriba un nombre de usuario.</translation>
     </message>
     <message>
         <source>The user name must not contain spaces or control characters.</source>
-        <translation type="unfinished"></translation>
+        <translation>El nombre de usuario no puede contener espacios ni caracteres de control.</translation>
     </message>
     <message>
         <source>The user name must not be longer than %1 characters.</source>
-        <translation type="unfinished"></translation>
+        <translation>El nombre de usuario no puede tener más de %1 caracteres.</translation>
     </message>
     <message>
         <source>This user name is already in use.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este nombre de usuario ya está en uso.</translation>
     </message>
     <message>
         <source>Please enter a password.</source>
-        <translation type="unfinished"></translation>
+        <translation>Escriba una contraseña.</translation>
     </message>
     <message>
         <source>The password must not contain spaces or control characters.</source>
-        <translation type="unfinished"></translation>
+        <translation>La contraseña no puede contener espacios ni caracteres de control.</translation>
     </message>
     <message>
         <source>The password must not be longer than %1 characters.</source>
-        <translation type="unfinished"></translation>
+        <translation>La contraseña no puede tener más de %1 caracteres.</translation>
     </message>
     <message>
         <source>This user no longer exists.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este usuario ya no existe.</translation>
     </message>
     <message>
         <source>The change could not be stored.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido guardar el cambio.</translation>
     </message>
 </context>
 <context>
     <name>kelvra_saas</name>
     <message>
         <source>The account is locked; minutes until it is unlocked: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>La cuenta está bloqueada; minutos hasta el desbloqueo: %1</translation>
     </message>
     <message>
         <source>The mobile phone number is not valid</source>
-        <translation type="unfinished"></translation>
+        <translation>El número de móvil no es válido</translation>
     </message>
     <message>
         <source>The cloud service does not answer; check the network connection</source>
-        <translation type="unfinished"></translation>
+        <translation>El servicio en la nube no responde; compruebe la conexión de red</translation>
     </message>
     <message>
         <source>The simulated cloud cannot use its file cloud_accounts.ini; correct the file or delete it</source>
-        <translation type="unfinished"></translation>
+        <translation>La nube simulada no puede utilizar su archivo cloud_accounts.ini; corrija o elimine el archivo</translation>
     </message>
     <message>
         <source>There is no account with this mobile phone number</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ninguna cuenta con este número de móvil</translation>
     </message>
     <message>
         <source>The verification code is wrong; attempts left: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>El código de verificación es incorrecto; intentos restantes: %1</translation>
     </message>
     <message>
         <source>The verification code is no longer valid; get a new one</source>
-        <translation type="unfinished"></translation>
+        <translation>El código de verificación ya no es válido; solicite uno nuevo</translation>
     </message>
     <message>
         <source>The login has not been confirmed on the phone</source>
-        <translation type="unfinished"></translation>
+        <translation>El inicio de sesión no se ha confirmado en el teléfono</translation>
     </message>
     <message>
         <source>The QR code is no longer valid</source>
-        <translation type="unfinished"></translation>
+        <translation>El código QR ya no es válido</translation>
     </message>
     <message>
         <source>No account has logged in by QR code</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguna cuenta ha iniciado sesión con código QR</translation>
     </message>
     <message>
         <source>No automatic login is stored for this account</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ningún inicio automático guardado para esta cuenta</translation>
     </message>
     <message>
         <source>The stored login is no longer valid; log in once more</source>
-        <translation type="unfinished"></translation>
+        <translation>El inicio de sesión guardado ya no es válido; vuelva a iniciar sesión</translation>
     </message>
     <message>
         <source>This computer is new to the account; log in by verification code or QR code</source>
-        <translation type="unfinished"></translation>
+        <translation>Este ordenador es nuevo para la cuenta; inicie sesión con un código de verificación o un código QR</translation>
     </message>
     <message>
         <source>The password is wrong; attempts left: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>La contraseña es incorrecta; intentos restantes: %1</translation>
     </message>
     <message>
         <source>The cloud service has refused the request (code %1, %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>El servicio en la nube ha rechazado la solicitud (código %1, %2)</translation>
     </message>
 </context>
 <context>
     <name>kelvra_saas::AccountsFile</name>
     <message>
         <source>The file %1 cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede leer el archivo %1.</translation>
     </message>
     <message>
         <source>The file %1 holds something else than text; correct it or delete it.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo %1 contiene algo que no es texto; corríjalo o elimínelo.</translation>
     </message>
     <message>
         <source>Line %1 of the file %2 makes no sense: %3. Correct it or delete the file.</source>
-        <translation type="unfinished"></translation>
+        <translation>La línea %1 del archivo %2 no es válida: %3. Corríjala o elimine el archivo.</translation>
     </message>
     <message>
         <source>The account %1 in the file %2 has no password. Correct it or delete the file.</source>
-        <translation type="unfinished"></translation>
+        <translation>La cuenta %1 del archivo %2 no tiene contraseña. Corríjala o elimine el archivo.</translation>
     </message>
     <message>
         <source>The file %1 holds no account; correct it or delete it.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo %1 no contiene ninguna cuenta; corríjalo o elimínelo.</translation>
     </message>
     <message>
         <source>a phone number has eleven digits, the first of them 1</source>
-        <translation type="unfinished"></translation>
+        <translation>un número de teléfono tiene once dígitos y el primero es 1</translation>
     </message>
     <message>
         <source>this phone number is there twice</source>
-        <translation type="unfinished"></translation>
+        <translation>este número de teléfono aparece dos veces</translation>
     </message>
     <message>
         <source>only [phone number], name=, password= and comments are known</source>
-        <translation type="unfinished"></translation>
+        <translation>solo se admiten [número de teléfono], name=, password= y comentarios</translation>
     </message>
     <message>
         <source>a phone number in brackets must come first</source>
-        <translation type="unfinished"></translation>
+        <translation>primero debe aparecer un número de teléfono entre corchetes</translation>
     </message>
     <message>
         <source>a password has at least %1 characters and no spaces</source>
-        <translation type="unfinished"></translation>
+        <translation>una contraseña tiene al menos %1 caracteres y ningún espacio</translation>
     </message>
     <message>
         <source>%1 is there twice</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 aparece dos veces</translation>
     </message>
 </context>
 <context>
     <name>kelvra_saas::SmsCodes</name>
     <message>
         <source>[Nimbra] %1 is your verification code. It is valid for %2 minutes; do not pass it on.</source>
-        <translation type="unfinished"></translation>
+        <translation>[Nimbra] %1 es su código de verificación. Es válido durante %2 minutos; no lo comparta.</translation>
     </message>
 </context>
 <context>
     <name>kelvra_worker::AuditTrail</name>
     <message>
         <source>The audit log cannot be written; events go unrecorded.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede escribir el registro de auditoría; los eventos no quedan registrados.</translation>
     </message>
 </context>
 <context>
     <name>kelvra_worker::IniFile</name>
     <message>
         <source>The file %1 cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede leer el archivo %1.</translation>
     </message>
     <message>
         <source>The file %1 is damaged; correct it or delete it.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo %1 está dañado; corríjalo o elimínelo.</translation>
     </message>
     <message>
         <source>The value of %1 in the file %2 makes no sense; correct it or delete it.</source>
-        <translation type="unfinished"></translation>
+        <translation>El valor de %1 en el archivo %2 no es válido; corríjalo o elimínelo.</translation>
     </message>
 </context>
 <context>
     <name>kelvra_worker::UiSettings</name>
     <message>
         <source>Settings cannot be written to %1; changes last until the client ends.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede guardar la configuración en %1; los cambios durarán hasta que se cierre el cliente.</translation>
     </message>
 </context>
 </TS>

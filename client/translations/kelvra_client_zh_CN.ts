@@ -150,6 +150,21 @@
     </message>
 </context>
 <context>
+    <name>kelvra_base::CommonDialog</name>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Maximize</source>
+        <translation>最大化</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>最小化</translation>
+    </message>
+</context>
+<context>
     <name>kelvra_client::AddUserDlg</name>
     <message>
         <source>Add user</source>
@@ -350,6 +365,10 @@
     <message>
         <source>Simulated phone</source>
         <translation>模拟手机</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>语言</translation>
     </message>
 </context>
 <context>

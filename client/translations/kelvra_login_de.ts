@@ -5,733 +5,773 @@
     <name>kelvra_login::AddGesturePwdDlg</name>
     <message>
         <source>Please set your gesture password to log in</source>
-        <translation type="unfinished"></translation>
+        <translation>Gestenpasswort für die Anmeldung festlegen</translation>
     </message>
     <message>
         <source>First input gesture</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeichnen Sie die Geste zum ersten Mal</translation>
     </message>
     <message>
         <source>Second input gesture</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeichnen Sie die Geste zum zweiten Mal</translation>
     </message>
     <message>
         <source>Too simple gesture:at least 4 points</source>
-        <translation type="unfinished"></translation>
+        <translation>Geste zu einfach: mindestens 4 Punkte</translation>
     </message>
     <message>
         <source>Successfully set gesture password</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Gestenpasswort wurde festgelegt</translation>
     </message>
     <message>
         <source>Add Gesture Password Login</source>
-        <translation type="unfinished"></translation>
+        <translation>Gestenanmeldung einrichten</translation>
     </message>
     <message>
         <source>The gesture passwords entered twice are inconsistent</source>
-        <translation type="unfinished"></translation>
+        <translation>Die beiden eingegebenen Gesten stimmen nicht überein</translation>
     </message>
     <message>
         <source>The gesture password is too simple,you should connect at least 4 points</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Gestenpasswort ist zu einfach. Verbinden Sie mindestens 4 Punkte</translation>
     </message>
     <message>
         <source>Failed to update gesture password</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Gestenpasswort konnte nicht geändert werden</translation>
     </message>
     <message>
         <source>Failed to add gesture password</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Gestenpasswort konnte nicht hinzugefügt werden</translation>
     </message>
 </context>
 <context>
     <name>kelvra_login::CloudPageParts</name>
     <message>
         <source>Phone Number</source>
-        <translation type="unfinished"></translation>
+        <translation>Telefonnummer</translation>
     </message>
     <message>
         <source>Illegal mobile phone number</source>
-        <translation type="unfinished"></translation>
+        <translation>Ungültige Mobilnummer</translation>
     </message>
     <message>
         <source>Logging in...</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmeldung läuft …</translation>
     </message>
     <message>
         <source>Login</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmelden</translation>
     </message>
 </context>
 <context>
     <name>kelvra_login::CreateSuperUserWt</name>
     <message>
         <source>CreateSuperUserWt</source>
-        <translation type="unfinished"></translation>
+        <translation>Superuser anlegen</translation>
     </message>
     <message>
         <source>Welcome to login</source>
-        <translation type="unfinished"></translation>
+        <translation>Willkommen zur Anmeldung</translation>
     </message>
     <message>
         <source>Create a  new local superuser</source>
-        <translation type="unfinished"></translation>
+        <translation>Neuen lokalen Superuser anlegen</translation>
     </message>
     <message>
         <source>Automatic Logon</source>
-        <translation type="unfinished"></translation>
+        <translation>Auto-Anmeldung</translation>
     </message>
     <message>
         <source>Create</source>
-        <translation type="unfinished"></translation>
+        <translation>Anlegen</translation>
     </message>
     <message>
         <source>User name can not be empty or be all blank!</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Benutzername darf nicht leer sein oder nur aus Leerzeichen bestehen!</translation>
     </message>
     <message>
         <source>User name already exists!</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Benutzername ist bereits vergeben!</translation>
     </message>
     <message>
         <source>Illegal password!</source>
-        <translation type="unfinished"></translation>
+        <translation>Unzulässiges Passwort!</translation>
     </message>
     <message>
         <source>The two passwords are not the same!</source>
-        <translation type="unfinished"></translation>
+        <translation>Die beiden Passwörter stimmen nicht überein!</translation>
     </message>
     <message>
         <source>Super User Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Name des Superusers</translation>
     </message>
     <message>
         <source>Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort</translation>
     </message>
     <message>
         <source>Confirm Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort bestätigen</translation>
     </message>
 </context>
 <context>
     <name>kelvra_login::GestureLoginWt</name>
     <message>
         <source>GestureLoginWt</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmeldung per Geste</translation>
     </message>
     <message>
         <source>Welcome to login</source>
-        <translation type="unfinished"></translation>
+        <translation>Willkommen zur Anmeldung</translation>
     </message>
     <message>
         <source>Automatic Logon</source>
-        <translation type="unfinished"></translation>
+        <translation>Auto-Anmeldung</translation>
     </message>
     <message>
         <source>Pwd Login</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit Passwort anmelden</translation>
     </message>
     <message>
         <source>gesture error, a maximum of %1 failures are allowed, now failed %2 times</source>
-        <translation type="unfinished"></translation>
+        <translation>Falsche Geste. Zulässige Fehlversuche: %1, bisher: %2</translation>
     </message>
     <message>
         <source>Failed:%1 times, Remaining:%2 times</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehlversuche: %1, verbleibend: %2</translation>
     </message>
     <message>
         <source>Account %1 not exist</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Konto %1 existiert nicht</translation>
     </message>
 </context>
 <context>
     <name>kelvra_login::GesturePanel</name>
     <message>
         <source>GesturePanel</source>
-        <translation type="unfinished"></translation>
+        <translation>Gestenfeld</translation>
+    </message>
+    <message>
+        <source>Gesture pad</source>
+        <translation>Gestenfeld</translation>
+    </message>
+    <message>
+        <source>Drag the mouse over the dots to connect them</source>
+        <translation>Verbinden Sie die Punkte, indem Sie mit gedrückter Maustaste darüberfahren</translation>
     </message>
 </context>
 <context>
     <name>kelvra_login::GestureVerifyDlg</name>
     <message>
         <source>Gesture Verify</source>
-        <translation type="unfinished"></translation>
+        <translation>Geste prüfen</translation>
     </message>
 </context>
 <context>
     <name>kelvra_login::GetbackPwdDlg</name>
     <message>
         <source>Please answer questions or</source>
-        <translation type="unfinished"></translation>
+        <translation>Fragen beantworten oder</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;&lt;span style=&quot; text-decoration: underline;&quot;&gt;import Credentials&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;&lt;span style=&quot; text-decoration: underline;&quot;&gt;Zugangsdatei laden&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>Password:</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort:</translation>
     </message>
     <message>
         <source>Get Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrufen</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Get Back Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort abrufen</translation>
     </message>
     <message>
         <source>verify user answers failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Antworten konnten nicht bestätigt werden</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopieren</translation>
     </message>
 </context>
 <context>
     <name>kelvra_login::LoginAccess</name>
     <message>
         <source>Failed to export login credentials</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zugangsdaten konnten nicht exportiert werden</translation>
     </message>
     <message>
         <source>Export login credentials success, you can get back or reset password using login credentials</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zugangsdaten wurden exportiert. Mit ihnen können Sie das Passwort abrufen oder zurücksetzen</translation>
     </message>
 </context>
 <context>
     <name>kelvra_login::LoginDlg</name>
     <message>
         <source>LoginDlg</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmeldung</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
     </message>
 </context>
 <context>
     <name>kelvra_login::LoginMethodBt</name>
     <message>
         <source>Use Default Superuser</source>
-        <translation type="unfinished"></translation>
+        <translation>Standard-Superuser</translation>
     </message>
     <message>
         <source>User:admin Password:468024, low security</source>
-        <translation type="unfinished"></translation>
+        <translation>Name: admin, Passwort: 468024, geringe Sicherheit</translation>
     </message>
     <message>
         <source>Create New Superuser</source>
-        <translation type="unfinished"></translation>
+        <translation>Neuer Superuser</translation>
     </message>
     <message>
         <source>Customize user and password, high security</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigener Name und eigenes Passwort, hohe Sicherheit</translation>
     </message>
     <message>
         <source>Login Nimbra App User</source>
-        <translation type="unfinished"></translation>
+        <translation>Benutzer der Nimbra App</translation>
     </message>
     <message>
         <source>Login via phone number or scan QR code</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmelden per Telefonnummer oder QR-Code</translation>
     </message>
 </context>
 <context>
     <name>kelvra_login::LoginMethodSelWt</name>
     <message>
         <source>LoginMethodSelWt</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmeldeart wählen</translation>
     </message>
     <message>
         <source>Welcome to login</source>
-        <translation type="unfinished"></translation>
+        <translation>Willkommen zur Anmeldung</translation>
     </message>
     <message>
         <source>Local default superuser is not available</source>
-        <translation type="unfinished"></translation>
+        <translation>Der lokale Standard-Superuser ist nicht verfügbar</translation>
     </message>
 </context>
 <context>
     <name>kelvra_login::LoginWorker</name>
     <message>
         <source>The account has been locked for %1 minutes, you can unlock by Nimbra App forgetting password</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Konto wurde für %1 Minuten gesperrt. Sie können es in der Nimbra App über „Passwort vergessen“ entsperren</translation>
     </message>
     <message>
         <source>Current errors:%1,in the next %2 sec.,if you make another error %3 times, the account will be locked for %4 minutes</source>
-        <translation type="unfinished"></translation>
+        <translation>Bisherige Fehlversuche: %1. In den nächsten %2 Sek. noch möglich: %3; danach wird das Konto für %4 Minuten gesperrt</translation>
     </message>
     <message>
         <source>Select Login Credentials</source>
-        <translation type="unfinished"></translation>
+        <translation>Zugangsdatei auswählen</translation>
     </message>
     <message>
         <source>Login credentials file is illegal</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zugangsdatei ist unzulässig</translation>
     </message>
     <message>
         <source>Failed to open login credentials file</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zugangsdatei konnte nicht geöffnet werden</translation>
     </message>
     <message>
         <source>Login credentials file is invalid</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zugangsdatei ist ungültig</translation>
     </message>
 </context>
 <context>
     <name>kelvra_login::LoginWt</name>
     <message>
         <source>LoginWt</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmeldung</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Sprache</translation>
     </message>
 </context>
 <context>
     <name>kelvra_login::NormalLoginWt</name>
     <message>
         <source>NormalLoginWt</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmeldung</translation>
     </message>
     <message>
         <source>Welcome to login</source>
-        <translation type="unfinished"></translation>
+        <translation>Willkommen zur Anmeldung</translation>
     </message>
     <message>
         <source>Local User</source>
-        <translation type="unfinished"></translation>
+        <translation>Lokaler Benutzer</translation>
     </message>
     <message>
         <source>Nimbra User</source>
-        <translation type="unfinished"></translation>
+        <translation>Nimbra-Benutzer</translation>
     </message>
     <message>
         <source>Automatic Logon</source>
-        <translation type="unfinished"></translation>
+        <translation>Auto-Anmeldung</translation>
     </message>
     <message>
         <source>Gesture</source>
-        <translation type="unfinished"></translation>
+        <translation>Geste</translation>
     </message>
     <message>
         <source>Forgot?</source>
-        <translation type="unfinished"></translation>
+        <translation>Vergessen?</translation>
     </message>
     <message>
         <source>Create New User</source>
-        <translation type="unfinished"></translation>
+        <translation>Neuer Benutzer</translation>
     </message>
     <message>
         <source>Login</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmelden</translation>
     </message>
     <message>
         <source>Nimbra account auto login failure:%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Automatische Anmeldung mit dem Nimbra-Konto fehlgeschlagen: %1</translation>
     </message>
     <message>
         <source>Password can not be empty!</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Passwort darf nicht leer sein!</translation>
     </message>
     <message>
         <source>user name or user password error, a maximum of %1 failures are allowed, now failed %2 times</source>
-        <translation type="unfinished"></translation>
+        <translation>Benutzername oder Passwort falsch. Zulässige Fehlversuche: %1, bisher: %2</translation>
     </message>
     <message>
         <source>Locked, Wait:%1Sec.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesperrt, noch %1 s</translation>
     </message>
     <message>
         <source>User name can not be empty or be all blank!</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Benutzername darf nicht leer sein oder nur aus Leerzeichen bestehen!</translation>
     </message>
     <message>
         <source>User not exist!</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Benutzer existiert nicht!</translation>
     </message>
     <message>
         <source>Please contact the administrator to obtain the password</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte wenden Sie sich an den Administrator, um das Passwort zu erhalten</translation>
     </message>
     <message>
         <source>The current account is not configured with gesture password login</source>
-        <translation type="unfinished"></translation>
+        <translation>Für das aktuelle Konto ist keine Anmeldung per Gestenpasswort eingerichtet</translation>
     </message>
 </context>
 <context>
     <name>kelvra_login::PageParts</name>
     <message>
         <source>answer can not be empty or be all blank!</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Antwort darf nicht leer sein oder nur aus Leerzeichen bestehen!</translation>
     </message>
 </context>
 <context>
     <name>kelvra_login::PwdTipWt</name>
     <message>
         <source>PwdTipWt</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwortregeln</translation>
     </message>
     <message>
         <source>Only two or more combinations of numbers, lowercase letters, uppercase letters and special characters can be used</source>
-        <translation type="unfinished"></translation>
+        <translation>Mindestens zwei dieser Arten: Ziffern, Kleinbuchstaben, Großbuchstaben, Sonderzeichen</translation>
     </message>
     <message>
         <source>Password length:8-16</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwortlänge: 8–16 Zeichen</translation>
     </message>
     <message>
         <source>The password cannot be the same as or opposite to the user name</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Passwort darf weder vorwärts noch rückwärts dem Benutzernamen entsprechen</translation>
     </message>
 </context>
 <context>
     <name>kelvra_login::QRCodeLoginPanel</name>
     <message>
         <source>QRCodeLoginPanel</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmeldung per QR-Code</translation>
     </message>
     <message>
         <source>Nimbra App Code scanning login</source>
-        <translation type="unfinished"></translation>
+        <translation>Code mit der Nimbra App scannen</translation>
     </message>
     <message>
         <source>Get QR Code Failure</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein QR-Code erhalten</translation>
     </message>
     <message>
         <source>Get login QR code failure:%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Der QR-Code für die Anmeldung konnte nicht abgerufen werden: %1</translation>
     </message>
     <message>
         <source>QR Code Invalid</source>
-        <translation type="unfinished"></translation>
+        <translation>QR-Code ungültig</translation>
     </message>
     <message>
         <source>Check Status Failure</source>
-        <translation type="unfinished"></translation>
+        <translation>Statusabfrage fehlgeschlagen</translation>
     </message>
     <message>
         <source>Check login QR code status failure:%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Status des QR-Codes konnte nicht abgefragt werden: %1</translation>
     </message>
     <message>
         <source>Scanned, confirming</source>
-        <translation type="unfinished"></translation>
+        <translation>Gescannt, Bestätigung ausstehend</translation>
     </message>
     <message>
         <source>Scanned, cancel login</source>
-        <translation type="unfinished"></translation>
+        <translation>Gescannt, Anmeldung abgebrochen</translation>
     </message>
     <message>
         <source>Illegal operation</source>
-        <translation type="unfinished"></translation>
+        <translation>Ungültige Aktion</translation>
     </message>
     <message>
         <source>Illegal ip</source>
-        <translation type="unfinished"></translation>
+        <translation>Ungültige IP</translation>
     </message>
     <message>
         <source>QR Code Login Failure</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmeldung per QR-Code fehlgeschlagen</translation>
     </message>
     <message>
         <source>Check QR code login result failure:%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Ergebnis der QR-Code-Anmeldung konnte nicht abgefragt werden: %1</translation>
+    </message>
+    <message>
+        <source>QR code</source>
+        <translation>QR-Code</translation>
+    </message>
+    <message>
+        <source>Refresh QR code</source>
+        <translation>QR-Code erneuern</translation>
     </message>
 </context>
 <context>
     <name>kelvra_login::ResetSuperUserPwdWt</name>
     <message>
         <source>ResetSuperUserPwdWt</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort zurücksetzen</translation>
     </message>
     <message>
         <source>Welcome to login</source>
-        <translation type="unfinished"></translation>
+        <translation>Willkommen zur Anmeldung</translation>
     </message>
     <message>
         <source>Please reset a new password</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte legen Sie ein neues Passwort fest</translation>
     </message>
     <message>
         <source>Automatic Logon</source>
-        <translation type="unfinished"></translation>
+        <translation>Auto-Anmeldung</translation>
     </message>
     <message>
         <source>Login</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmelden</translation>
     </message>
     <message>
         <source>User name can not be empty or be all blank!</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Benutzername darf nicht leer sein oder nur aus Leerzeichen bestehen!</translation>
     </message>
     <message>
         <source>Illegal password!</source>
-        <translation type="unfinished"></translation>
+        <translation>Unzulässiges Passwort!</translation>
     </message>
     <message>
         <source>The two passwords are not the same!</source>
-        <translation type="unfinished"></translation>
+        <translation>Die beiden Passwörter stimmen nicht überein!</translation>
     </message>
     <message>
         <source>reset [%1] pwd failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Passwort von [%1] konnte nicht zurückgesetzt werden</translation>
     </message>
     <message>
         <source>Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort</translation>
     </message>
     <message>
         <source>Confirm Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort bestätigen</translation>
     </message>
 </context>
 <context>
     <name>kelvra_login::SaasPwdLoginWt</name>
     <message>
         <source>SaasPwdLoginWt</source>
-        <translation type="unfinished"></translation>
+        <translation>Cloud-Anmeldung per Passwort</translation>
     </message>
     <message>
         <source>Automatic Logon</source>
-        <translation type="unfinished"></translation>
+        <translation>Auto-Anmeldung</translation>
     </message>
     <message>
         <source>PIN</source>
-        <translation type="unfinished"></translation>
+        <translation>PIN</translation>
     </message>
     <message>
         <source>QR Code</source>
-        <translation type="unfinished"></translation>
+        <translation>QR-Code</translation>
     </message>
     <message>
         <source>Login</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmelden</translation>
     </message>
     <message>
         <source>Invalid password</source>
-        <translation type="unfinished"></translation>
+        <translation>Ungültiges Passwort</translation>
     </message>
     <message>
         <source>It is currently a non secure terminal,Please log in as a verification code</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Gerät gilt derzeit nicht als sicher. Bitte melden Sie sich mit einem Bestätigungscode an</translation>
     </message>
     <message>
         <source>Nimbra account login failure:%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmeldung mit dem Nimbra-Konto fehlgeschlagen: %1</translation>
     </message>
 </context>
 <context>
     <name>kelvra_login::SaasScanQRCodeLoginWt</name>
     <message>
         <source>SaasScanQRCodeLoginWt</source>
-        <translation type="unfinished"></translation>
+        <translation>Cloud-Anmeldung per QR-Code</translation>
     </message>
     <message>
         <source>Automatic Logon</source>
-        <translation type="unfinished"></translation>
+        <translation>Auto-Anmeldung</translation>
     </message>
     <message>
         <source>PIN</source>
-        <translation type="unfinished"></translation>
+        <translation>PIN</translation>
     </message>
     <message>
         <source>PWD</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort</translation>
     </message>
     <message>
         <source>Get logged in account failure:%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Das angemeldete Konto konnte nicht ermittelt werden: %1</translation>
     </message>
 </context>
 <context>
     <name>kelvra_login::SaasVerificationCodeLoginWt</name>
     <message>
         <source>SaasVerificationCodeLoginWt</source>
-        <translation type="unfinished"></translation>
+        <translation>Cloud-Anmeldung per PIN</translation>
     </message>
     <message>
         <source>PIN</source>
-        <translation type="unfinished"></translation>
+        <translation>PIN</translation>
     </message>
     <message>
         <source>Get PIN</source>
-        <translation type="unfinished"></translation>
+        <translation>PIN anfordern</translation>
     </message>
     <message>
         <source>Automatic Logon</source>
-        <translation type="unfinished"></translation>
+        <translation>Auto-Anmeldung</translation>
     </message>
     <message>
         <source>PWD</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort</translation>
     </message>
     <message>
         <source>QR Code</source>
-        <translation type="unfinished"></translation>
+        <translation>QR-Code</translation>
     </message>
     <message>
         <source>Login</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmelden</translation>
     </message>
     <message>
         <source>60S</source>
-        <translation type="unfinished"></translation>
+        <translation>60 s</translation>
     </message>
     <message>
         <source>Get verificaion code success, please check the verification code on your mobile phone</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Bestätigungscode wurde gesendet. Bitte sehen Sie auf Ihrem Mobiltelefon nach</translation>
     </message>
     <message>
         <source>Get verificaion code failed:invalid mobile number(%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Bestätigungscode erhalten: ungültige Mobilnummer (%1)</translation>
     </message>
     <message>
         <source>Get verificaion code failed:%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Bestätigungscode erhalten: %1</translation>
     </message>
     <message>
         <source>Get Verification Code</source>
-        <translation type="unfinished"></translation>
+        <translation>PIN anfordern</translation>
     </message>
     <message>
         <source>%1S</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s</translation>
     </message>
     <message>
         <source>Invalid verification code</source>
-        <translation type="unfinished"></translation>
+        <translation>Ungültiger Bestätigungscode</translation>
     </message>
     <message>
         <source>Nimbra account login failure:invalid account</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmeldung mit dem Nimbra-Konto fehlgeschlagen: ungültiges Konto</translation>
     </message>
     <message>
         <source>Nimbra account login failure:%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmeldung mit dem Nimbra-Konto fehlgeschlagen: %1</translation>
     </message>
 </context>
 <context>
     <name>kelvra_login::SecretAnswersWt</name>
     <message>
         <source>SecretAnswersWt</source>
-        <translation type="unfinished"></translation>
+        <translation>Sicherheitsfragen</translation>
     </message>
     <message>
         <source>Please enter the answer to question 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Antwort auf Frage 1 eingeben</translation>
     </message>
     <message>
         <source>Please enter the answer to question 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Antwort auf Frage 2 eingeben</translation>
     </message>
     <message>
         <source>Please enter the answer to question 3</source>
-        <translation type="unfinished"></translation>
+        <translation>Antwort auf Frage 3 eingeben</translation>
     </message>
 </context>
 <context>
     <name>kelvra_login::SetSecretAnswerWt</name>
     <message>
         <source>SetSecretAnswerWt</source>
-        <translation type="unfinished"></translation>
+        <translation>Sicherheitsfragen festlegen</translation>
     </message>
     <message>
         <source>Password protection</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwortschutz</translation>
     </message>
     <message>
         <source>Please set the security question</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte Sicherheitsfragen festlegen</translation>
     </message>
     <message>
         <source>Please enter the answer to question 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Antwort auf Frage 1 eingeben</translation>
     </message>
     <message>
         <source>Please enter the answer to question 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Antwort auf Frage 2 eingeben</translation>
     </message>
     <message>
         <source>Please enter the answer to question 3</source>
-        <translation type="unfinished"></translation>
+        <translation>Antwort auf Frage 3 eingeben</translation>
     </message>
     <message>
         <source>Login</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmelden</translation>
     </message>
     <message>
         <source>Failed to create super user</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Superuser konnte nicht angelegt werden</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Question %1</source>
+        <translation>Frage %1</translation>
     </message>
 </context>
 <context>
     <name>kelvra_login::SplashScreen</name>
     <message>
         <source>SplashScreen</source>
-        <translation type="unfinished"></translation>
+        <translation>Start</translation>
     </message>
     <message>
         <source>System Data Loading...</source>
-        <translation type="unfinished"></translation>
+        <translation>Systemdaten werden geladen …</translation>
     </message>
     <message>
         <source>0%</source>
-        <translation type="unfinished"></translation>
+        <translation>0%</translation>
     </message>
 </context>
 <context>
     <name>kelvra_login::UserNameWt</name>
     <message>
         <source>UserNameWt</source>
-        <translation type="unfinished"></translation>
+        <translation>Benutzername</translation>
     </message>
     <message>
         <source>user name</source>
-        <translation type="unfinished"></translation>
+        <translation>Benutzername</translation>
     </message>
 </context>
 <context>
     <name>kelvra_login::UserPwdWt</name>
     <message>
         <source>UserPwdWt</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort</translation>
     </message>
     <message>
         <source>password</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort</translation>
+    </message>
+    <message>
+        <source>Show password</source>
+        <translation>Passwort anzeigen</translation>
     </message>
 </context>
 <context>
     <name>kelvra_login::VerifySecretAnswerWt</name>
     <message>
         <source>VerifySecretAnswerWt</source>
-        <translation type="unfinished"></translation>
+        <translation>Sicherheitsfragen beantworten</translation>
     </message>
     <message>
         <source>Password protection</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwortschutz</translation>
     </message>
     <message>
         <source>Please answer questions or</source>
-        <translation type="unfinished"></translation>
+        <translation>Fragen beantworten oder</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;&lt;span style=&quot; text-decoration: underline;&quot;&gt;import Credentials&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;&lt;span style=&quot; text-decoration: underline;&quot;&gt;Zugangsdatei laden&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;&lt;span style=&quot; font-size:9pt; text-decoration: underline;&quot;&gt;Create New User&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;&lt;span style=&quot; font-size:9pt; text-decoration: underline;&quot;&gt;Neuer Benutzer&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>verify user answers failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Antworten konnten nicht bestätigt werden</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
     </message>
 </context>
 </TS>

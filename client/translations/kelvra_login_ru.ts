@@ -5,733 +5,773 @@
     <name>kelvra_login::AddGesturePwdDlg</name>
     <message>
         <source>Please set your gesture password to log in</source>
-        <translation type="unfinished"></translation>
+        <translation>Задайте графический ключ для входа</translation>
     </message>
     <message>
         <source>First input gesture</source>
-        <translation type="unfinished"></translation>
+        <translation>Нарисуйте графический ключ</translation>
     </message>
     <message>
         <source>Second input gesture</source>
-        <translation type="unfinished"></translation>
+        <translation>Нарисуйте его ещё раз</translation>
     </message>
     <message>
         <source>Too simple gesture:at least 4 points</source>
-        <translation type="unfinished"></translation>
+        <translation>Слишком просто: нужно хотя бы 4 точки</translation>
     </message>
     <message>
         <source>Successfully set gesture password</source>
-        <translation type="unfinished"></translation>
+        <translation>Графический ключ задан</translation>
     </message>
     <message>
         <source>Add Gesture Password Login</source>
-        <translation type="unfinished"></translation>
+        <translation>Вход по графическому ключу</translation>
     </message>
     <message>
         <source>The gesture passwords entered twice are inconsistent</source>
-        <translation type="unfinished"></translation>
+        <translation>Введённые графические ключи не совпадают</translation>
     </message>
     <message>
         <source>The gesture password is too simple,you should connect at least 4 points</source>
-        <translation type="unfinished"></translation>
+        <translation>Слишком просто: нужно хотя бы 4 точки</translation>
     </message>
     <message>
         <source>Failed to update gesture password</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось изменить графический ключ</translation>
     </message>
     <message>
         <source>Failed to add gesture password</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось задать графический ключ</translation>
     </message>
 </context>
 <context>
     <name>kelvra_login::CloudPageParts</name>
     <message>
         <source>Phone Number</source>
-        <translation type="unfinished"></translation>
+        <translation>Номер телефона</translation>
     </message>
     <message>
         <source>Illegal mobile phone number</source>
-        <translation type="unfinished"></translation>
+        <translation>Недопустимый номер мобильного телефона</translation>
     </message>
     <message>
         <source>Logging in...</source>
-        <translation type="unfinished"></translation>
+        <translation>Выполняется вход...</translation>
     </message>
     <message>
         <source>Login</source>
-        <translation type="unfinished"></translation>
+        <translation>Войти</translation>
     </message>
 </context>
 <context>
     <name>kelvra_login::CreateSuperUserWt</name>
     <message>
         <source>CreateSuperUserWt</source>
-        <translation type="unfinished"></translation>
+        <translation>Создание суперпользователя</translation>
     </message>
     <message>
         <source>Welcome to login</source>
-        <translation type="unfinished"></translation>
+        <translation>Добро пожаловать</translation>
     </message>
     <message>
         <source>Create a  new local superuser</source>
-        <translation type="unfinished"></translation>
+        <translation>Новый локальный суперпользователь</translation>
     </message>
     <message>
         <source>Automatic Logon</source>
-        <translation type="unfinished"></translation>
+        <translation>Автовход</translation>
     </message>
     <message>
         <source>Create</source>
-        <translation type="unfinished"></translation>
+        <translation>Создать</translation>
     </message>
     <message>
         <source>User name can not be empty or be all blank!</source>
-        <translation type="unfinished"></translation>
+        <translation>Имя пользователя не может быть пустым или состоять из пробелов!</translation>
     </message>
     <message>
         <source>User name already exists!</source>
-        <translation type="unfinished"></translation>
+        <translation>Такое имя пользователя уже существует!</translation>
     </message>
     <message>
         <source>Illegal password!</source>
-        <translation type="unfinished"></translation>
+        <translation>Недопустимый пароль!</translation>
     </message>
     <message>
         <source>The two passwords are not the same!</source>
-        <translation type="unfinished"></translation>
+        <translation>Пароли не совпадают!</translation>
     </message>
     <message>
         <source>Super User Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Имя суперпользователя</translation>
     </message>
     <message>
         <source>Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Пароль</translation>
     </message>
     <message>
         <source>Confirm Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Повторите пароль</translation>
     </message>
 </context>
 <context>
     <name>kelvra_login::GestureLoginWt</name>
     <message>
         <source>GestureLoginWt</source>
-        <translation type="unfinished"></translation>
+        <translation>Вход по графическому ключу</translation>
     </message>
     <message>
         <source>Welcome to login</source>
-        <translation type="unfinished"></translation>
+        <translation>Добро пожаловать</translation>
     </message>
     <message>
         <source>Automatic Logon</source>
-        <translation type="unfinished"></translation>
+        <translation>Автовход</translation>
     </message>
     <message>
         <source>Pwd Login</source>
-        <translation type="unfinished"></translation>
+        <translation>Вход по паролю</translation>
     </message>
     <message>
         <source>gesture error, a maximum of %1 failures are allowed, now failed %2 times</source>
-        <translation type="unfinished"></translation>
+        <translation>Неверный графический ключ. Допускается ошибок: %1, уже допущено: %2</translation>
     </message>
     <message>
         <source>Failed:%1 times, Remaining:%2 times</source>
-        <translation type="unfinished"></translation>
+        <translation>Ошибок: %1, осталось попыток: %2</translation>
     </message>
     <message>
         <source>Account %1 not exist</source>
-        <translation type="unfinished"></translation>
+        <translation>Учётная запись %1 не существует</translation>
     </message>
 </context>
 <context>
     <name>kelvra_login::GesturePanel</name>
     <message>
         <source>GesturePanel</source>
-        <translation type="unfinished"></translation>
+        <translation>Панель графического ключа</translation>
+    </message>
+    <message>
+        <source>Gesture pad</source>
+        <translation>Поле жеста</translation>
+    </message>
+    <message>
+        <source>Drag the mouse over the dots to connect them</source>
+        <translation>Проведите мышью по точкам, чтобы соединить их</translation>
     </message>
 </context>
 <context>
     <name>kelvra_login::GestureVerifyDlg</name>
     <message>
         <source>Gesture Verify</source>
-        <translation type="unfinished"></translation>
+        <translation>Проверка графического ключа</translation>
     </message>
 </context>
 <context>
     <name>kelvra_login::GetbackPwdDlg</name>
     <message>
         <source>Please answer questions or</source>
-        <translation type="unfinished"></translation>
+        <translation>Ответьте на вопросы или</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;&lt;span style=&quot; text-decoration: underline;&quot;&gt;import Credentials&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;&lt;span style=&quot; text-decoration: underline;&quot;&gt;загрузите файл&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>Password:</source>
-        <translation type="unfinished"></translation>
+        <translation>Пароль:</translation>
     </message>
     <message>
         <source>Get Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Восстановить</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Отмена</translation>
     </message>
     <message>
         <source>Get Back Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Восстановление пароля</translation>
     </message>
     <message>
         <source>verify user answers failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Ответы не прошли проверку</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Копировать</translation>
     </message>
 </context>
 <context>
     <name>kelvra_login::LoginAccess</name>
     <message>
         <source>Failed to export login credentials</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось экспортировать файл учётных данных</translation>
     </message>
     <message>
         <source>Export login credentials success, you can get back or reset password using login credentials</source>
-        <translation type="unfinished"></translation>
+        <translation>Файл учётных данных сохранён. С его помощью можно восстановить или сбросить пароль</translation>
     </message>
 </context>
 <context>
     <name>kelvra_login::LoginDlg</name>
     <message>
         <source>LoginDlg</source>
-        <translation type="unfinished"></translation>
+        <translation>Вход</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрыть</translation>
     </message>
 </context>
 <context>
     <name>kelvra_login::LoginMethodBt</name>
     <message>
         <source>Use Default Superuser</source>
-        <translation type="unfinished"></translation>
+        <translation>Вход по умолчанию</translation>
     </message>
     <message>
         <source>User:admin Password:468024, low security</source>
-        <translation type="unfinished"></translation>
+        <translation>Имя: admin, пароль: 468024, низкая безопасность</translation>
     </message>
     <message>
         <source>Create New Superuser</source>
-        <translation type="unfinished"></translation>
+        <translation>Новый суперпользователь</translation>
     </message>
     <message>
         <source>Customize user and password, high security</source>
-        <translation type="unfinished"></translation>
+        <translation>Свои имя и пароль, высокая безопасность</translation>
     </message>
     <message>
         <source>Login Nimbra App User</source>
-        <translation type="unfinished"></translation>
+        <translation>Вход через Nimbra App</translation>
     </message>
     <message>
         <source>Login via phone number or scan QR code</source>
-        <translation type="unfinished"></translation>
+        <translation>По номеру телефона или по QR-коду</translation>
     </message>
 </context>
 <context>
     <name>kelvra_login::LoginMethodSelWt</name>
     <message>
         <source>LoginMethodSelWt</source>
-        <translation type="unfinished"></translation>
+        <translation>Выбор способа входа</translation>
     </message>
     <message>
         <source>Welcome to login</source>
-        <translation type="unfinished"></translation>
+        <translation>Добро пожаловать</translation>
     </message>
     <message>
         <source>Local default superuser is not available</source>
-        <translation type="unfinished"></translation>
+        <translation>Локальный суперпользователь по умолчанию недоступен</translation>
     </message>
 </context>
 <context>
     <name>kelvra_login::LoginWorker</name>
     <message>
         <source>The account has been locked for %1 minutes, you can unlock by Nimbra App forgetting password</source>
-        <translation type="unfinished"></translation>
+        <translation>Учётная запись заблокирована на %1 мин. Её можно разблокировать в Nimbra App с помощью функции «Забыли пароль?»</translation>
     </message>
     <message>
         <source>Current errors:%1,in the next %2 sec.,if you make another error %3 times, the account will be locked for %4 minutes</source>
-        <translation type="unfinished"></translation>
+        <translation>Ошибок: %1. Если в течение следующих %2 с число новых ошибок достигнет %3, учётная запись будет заблокирована на %4 мин.</translation>
     </message>
     <message>
         <source>Select Login Credentials</source>
-        <translation type="unfinished"></translation>
+        <translation>Выберите файл учётных данных</translation>
     </message>
     <message>
         <source>Login credentials file is illegal</source>
-        <translation type="unfinished"></translation>
+        <translation>Недопустимый файл учётных данных</translation>
     </message>
     <message>
         <source>Failed to open login credentials file</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось открыть файл учётных данных</translation>
     </message>
     <message>
         <source>Login credentials file is invalid</source>
-        <translation type="unfinished"></translation>
+        <translation>Файл учётных данных недействителен</translation>
     </message>
 </context>
 <context>
     <name>kelvra_login::LoginWt</name>
     <message>
         <source>LoginWt</source>
-        <translation type="unfinished"></translation>
+        <translation>Вход</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Язык</translation>
     </message>
 </context>
 <context>
     <name>kelvra_login::NormalLoginWt</name>
     <message>
         <source>NormalLoginWt</source>
-        <translation type="unfinished"></translation>
+        <translation>Вход</translation>
     </message>
     <message>
         <source>Welcome to login</source>
-        <translation type="unfinished"></translation>
+        <translation>Добро пожаловать</translation>
     </message>
     <message>
         <source>Local User</source>
-        <translation type="unfinished"></translation>
+        <translation>Локальный вход</translation>
     </message>
     <message>
         <source>Nimbra User</source>
-        <translation type="unfinished"></translation>
+        <translation>Вход в Nimbra</translation>
     </message>
     <message>
         <source>Automatic Logon</source>
-        <translation type="unfinished"></translation>
+        <translation>Автовход</translation>
     </message>
     <message>
         <source>Gesture</source>
-        <translation type="unfinished"></translation>
+        <translation>Жест</translation>
     </message>
     <message>
         <source>Forgot?</source>
-        <translation type="unfinished"></translation>
+        <translation>Забыли?</translation>
     </message>
     <message>
         <source>Create New User</source>
-        <translation type="unfinished"></translation>
+        <translation>Новый пользователь</translation>
     </message>
     <message>
         <source>Login</source>
-        <translation type="unfinished"></translation>
+        <translation>Войти</translation>
     </message>
     <message>
         <source>Nimbra account auto login failure:%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось автоматически войти в учётную запись Nimbra: %1</translation>
     </message>
     <message>
         <source>Password can not be empty!</source>
-        <translation type="unfinished"></translation>
+        <translation>Пароль не может быть пустым!</translation>
     </message>
     <message>
         <source>user name or user password error, a maximum of %1 failures are allowed, now failed %2 times</source>
-        <translation type="unfinished"></translation>
+        <translation>Неверное имя пользователя или пароль. Допускается ошибок: %1, уже допущено: %2</translation>
     </message>
     <message>
         <source>Locked, Wait:%1Sec.</source>
-        <translation type="unfinished"></translation>
+        <translation>Заблокировано, ждите %1 с</translation>
     </message>
     <message>
         <source>User name can not be empty or be all blank!</source>
-        <translation type="unfinished"></translation>
+        <translation>Имя пользователя не может быть пустым или состоять из пробелов!</translation>
     </message>
     <message>
         <source>User not exist!</source>
-        <translation type="unfinished"></translation>
+        <translation>Пользователь не существует!</translation>
     </message>
     <message>
         <source>Please contact the administrator to obtain the password</source>
-        <translation type="unfinished"></translation>
+        <translation>Обратитесь к администратору, чтобы получить пароль</translation>
     </message>
     <message>
         <source>The current account is not configured with gesture password login</source>
-        <translation type="unfinished"></translation>
+        <translation>Для текущей учётной записи не задан графический ключ</translation>
     </message>
 </context>
 <context>
     <name>kelvra_login::PageParts</name>
     <message>
         <source>answer can not be empty or be all blank!</source>
-        <translation type="unfinished"></translation>
+        <translation>Ответ не может быть пустым или состоять из пробелов!</translation>
     </message>
 </context>
 <context>
     <name>kelvra_login::PwdTipWt</name>
     <message>
         <source>PwdTipWt</source>
-        <translation type="unfinished"></translation>
+        <translation>Требования к паролю</translation>
     </message>
     <message>
         <source>Only two or more combinations of numbers, lowercase letters, uppercase letters and special characters can be used</source>
-        <translation type="unfinished"></translation>
+        <translation>Не менее двух видов символов: цифры, строчные и прописные буквы, спецсимволы</translation>
     </message>
     <message>
         <source>Password length:8-16</source>
-        <translation type="unfinished"></translation>
+        <translation>Длина пароля: 8–16 символов</translation>
     </message>
     <message>
         <source>The password cannot be the same as or opposite to the user name</source>
-        <translation type="unfinished"></translation>
+        <translation>Пароль не может быть именем пользователя, в том числе записанным наоборот</translation>
     </message>
 </context>
 <context>
     <name>kelvra_login::QRCodeLoginPanel</name>
     <message>
         <source>QRCodeLoginPanel</source>
-        <translation type="unfinished"></translation>
+        <translation>Вход по QR-коду</translation>
     </message>
     <message>
         <source>Nimbra App Code scanning login</source>
-        <translation type="unfinished"></translation>
+        <translation>Отсканируйте код в Nimbra App</translation>
     </message>
     <message>
         <source>Get QR Code Failure</source>
-        <translation type="unfinished"></translation>
+        <translation>QR-код не получен</translation>
     </message>
     <message>
         <source>Get login QR code failure:%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось получить QR-код для входа: %1</translation>
     </message>
     <message>
         <source>QR Code Invalid</source>
-        <translation type="unfinished"></translation>
+        <translation>QR-код недействителен</translation>
     </message>
     <message>
         <source>Check Status Failure</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось проверить состояние</translation>
     </message>
     <message>
         <source>Check login QR code status failure:%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось проверить состояние QR-кода для входа: %1</translation>
     </message>
     <message>
         <source>Scanned, confirming</source>
-        <translation type="unfinished"></translation>
+        <translation>Код отсканирован, подтвердите вход</translation>
     </message>
     <message>
         <source>Scanned, cancel login</source>
-        <translation type="unfinished"></translation>
+        <translation>Код отсканирован, вход отменён</translation>
     </message>
     <message>
         <source>Illegal operation</source>
-        <translation type="unfinished"></translation>
+        <translation>Недопустимая операция</translation>
     </message>
     <message>
         <source>Illegal ip</source>
-        <translation type="unfinished"></translation>
+        <translation>Недопустимый IP-адрес</translation>
     </message>
     <message>
         <source>QR Code Login Failure</source>
-        <translation type="unfinished"></translation>
+        <translation>Ошибка входа по QR-коду</translation>
     </message>
     <message>
         <source>Check QR code login result failure:%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось проверить результат входа по QR-коду: %1</translation>
+    </message>
+    <message>
+        <source>QR code</source>
+        <translation>QR-код</translation>
+    </message>
+    <message>
+        <source>Refresh QR code</source>
+        <translation>Обновить QR-код</translation>
     </message>
 </context>
 <context>
     <name>kelvra_login::ResetSuperUserPwdWt</name>
     <message>
         <source>ResetSuperUserPwdWt</source>
-        <translation type="unfinished"></translation>
+        <translation>Сброс пароля</translation>
     </message>
     <message>
         <source>Welcome to login</source>
-        <translation type="unfinished"></translation>
+        <translation>Добро пожаловать</translation>
     </message>
     <message>
         <source>Please reset a new password</source>
-        <translation type="unfinished"></translation>
+        <translation>Задайте новый пароль</translation>
     </message>
     <message>
         <source>Automatic Logon</source>
-        <translation type="unfinished"></translation>
+        <translation>Автовход</translation>
     </message>
     <message>
         <source>Login</source>
-        <translation type="unfinished"></translation>
+        <translation>Войти</translation>
     </message>
     <message>
         <source>User name can not be empty or be all blank!</source>
-        <translation type="unfinished"></translation>
+        <translation>Имя пользователя не может быть пустым или состоять из пробелов!</translation>
     </message>
     <message>
         <source>Illegal password!</source>
-        <translation type="unfinished"></translation>
+        <translation>Недопустимый пароль!</translation>
     </message>
     <message>
         <source>The two passwords are not the same!</source>
-        <translation type="unfinished"></translation>
+        <translation>Пароли не совпадают!</translation>
     </message>
     <message>
         <source>reset [%1] pwd failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось сбросить пароль [%1]</translation>
     </message>
     <message>
         <source>Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Пароль</translation>
     </message>
     <message>
         <source>Confirm Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Повторите пароль</translation>
     </message>
 </context>
 <context>
     <name>kelvra_login::SaasPwdLoginWt</name>
     <message>
         <source>SaasPwdLoginWt</source>
-        <translation type="unfinished"></translation>
+        <translation>Вход в облако по паролю</translation>
     </message>
     <message>
         <source>Automatic Logon</source>
-        <translation type="unfinished"></translation>
+        <translation>Автовход</translation>
     </message>
     <message>
         <source>PIN</source>
-        <translation type="unfinished"></translation>
+        <translation>SMS-код</translation>
     </message>
     <message>
         <source>QR Code</source>
-        <translation type="unfinished"></translation>
+        <translation>QR-код</translation>
     </message>
     <message>
         <source>Login</source>
-        <translation type="unfinished"></translation>
+        <translation>Войти</translation>
     </message>
     <message>
         <source>Invalid password</source>
-        <translation type="unfinished"></translation>
+        <translation>Недопустимый пароль</translation>
     </message>
     <message>
         <source>It is currently a non secure terminal,Please log in as a verification code</source>
-        <translation type="unfinished"></translation>
+        <translation>Этот компьютер не является доверенным. Войдите с помощью кода из SMS</translation>
     </message>
     <message>
         <source>Nimbra account login failure:%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось войти в учётную запись Nimbra: %1</translation>
     </message>
 </context>
 <context>
     <name>kelvra_login::SaasScanQRCodeLoginWt</name>
     <message>
         <source>SaasScanQRCodeLoginWt</source>
-        <translation type="unfinished"></translation>
+        <translation>Вход в облако по QR-коду</translation>
     </message>
     <message>
         <source>Automatic Logon</source>
-        <translation type="unfinished"></translation>
+        <translation>Автовход</translation>
     </message>
     <message>
         <source>PIN</source>
-        <translation type="unfinished"></translation>
+        <translation>SMS-код</translation>
     </message>
     <message>
         <source>PWD</source>
-        <translation type="unfinished"></translation>
+        <translation>Пароль</translation>
     </message>
     <message>
         <source>Get logged in account failure:%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось получить вошедшую учётную запись: %1</translation>
     </message>
 </context>
 <context>
     <name>kelvra_login::SaasVerificationCodeLoginWt</name>
     <message>
         <source>SaasVerificationCodeLoginWt</source>
-        <translation type="unfinished"></translation>
+        <translation>Вход в облако по SMS-коду</translation>
     </message>
     <message>
         <source>PIN</source>
-        <translation type="unfinished"></translation>
+        <translation>SMS-код</translation>
     </message>
     <message>
         <source>Get PIN</source>
-        <translation type="unfinished"></translation>
+        <translation>Получить код</translation>
     </message>
     <message>
         <source>Automatic Logon</source>
-        <translation type="unfinished"></translation>
+        <translation>Автовход</translation>
     </message>
     <message>
         <source>PWD</source>
-        <translation type="unfinished"></translation>
+        <translation>Пароль</translation>
     </message>
     <message>
         <source>QR Code</source>
-        <translation type="unfinished"></translation>
+        <translation>QR-код</translation>
     </message>
     <message>
         <source>Login</source>
-        <translation type="unfinished"></translation>
+        <translation>Войти</translation>
     </message>
     <message>
         <source>60S</source>
-        <translation type="unfinished"></translation>
+        <translation>60 с</translation>
     </message>
     <message>
         <source>Get verificaion code success, please check the verification code on your mobile phone</source>
-        <translation type="unfinished"></translation>
+        <translation>Код отправлен. Проверьте SMS на своём мобильном телефоне</translation>
     </message>
     <message>
         <source>Get verificaion code failed:invalid mobile number(%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось получить код: недействительный номер мобильного телефона (%1)</translation>
     </message>
     <message>
         <source>Get verificaion code failed:%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось получить код: %1</translation>
     </message>
     <message>
         <source>Get Verification Code</source>
-        <translation type="unfinished"></translation>
+        <translation>Получить код</translation>
     </message>
     <message>
         <source>%1S</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 с</translation>
     </message>
     <message>
         <source>Invalid verification code</source>
-        <translation type="unfinished"></translation>
+        <translation>Недопустимый SMS-код</translation>
     </message>
     <message>
         <source>Nimbra account login failure:invalid account</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось войти в учётную запись Nimbra: недействительная учётная запись</translation>
     </message>
     <message>
         <source>Nimbra account login failure:%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось войти в учётную запись Nimbra: %1</translation>
     </message>
 </context>
 <context>
     <name>kelvra_login::SecretAnswersWt</name>
     <message>
         <source>SecretAnswersWt</source>
-        <translation type="unfinished"></translation>
+        <translation>Контрольные вопросы</translation>
     </message>
     <message>
         <source>Please enter the answer to question 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Введите ответ на вопрос 1</translation>
     </message>
     <message>
         <source>Please enter the answer to question 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Введите ответ на вопрос 2</translation>
     </message>
     <message>
         <source>Please enter the answer to question 3</source>
-        <translation type="unfinished"></translation>
+        <translation>Введите ответ на вопрос 3</translation>
     </message>
 </context>
 <context>
     <name>kelvra_login::SetSecretAnswerWt</name>
     <message>
         <source>SetSecretAnswerWt</source>
-        <translation type="unfinished"></translation>
+        <translation>Настройка контрольных вопросов</translation>
     </message>
     <message>
         <source>Password protection</source>
-        <translation type="unfinished"></translation>
+        <translation>Защита пароля</translation>
     </message>
     <message>
         <source>Please set the security question</source>
-        <translation type="unfinished"></translation>
+        <translation>Задайте контрольные вопросы</translation>
     </message>
     <message>
         <source>Please enter the answer to question 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Введите ответ на вопрос 1</translation>
     </message>
     <message>
         <source>Please enter the answer to question 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Введите ответ на вопрос 2</translation>
     </message>
     <message>
         <source>Please enter the answer to question 3</source>
-        <translation type="unfinished"></translation>
+        <translation>Введите ответ на вопрос 3</translation>
     </message>
     <message>
         <source>Login</source>
-        <translation type="unfinished"></translation>
+        <translation>Войти</translation>
     </message>
     <message>
         <source>Failed to create super user</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось создать суперпользователя</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Назад</translation>
+    </message>
+    <message>
+        <source>Question %1</source>
+        <translation>Вопрос %1</translation>
     </message>
 </context>
 <context>
     <name>kelvra_login::SplashScreen</name>
     <message>
         <source>SplashScreen</source>
-        <translation type="unfinished"></translation>
+        <translation>Запуск</translation>
     </message>
     <message>
         <source>System Data Loading...</source>
-        <translation type="unfinished"></translation>
+        <translation>Загрузка данных системы...</translation>
     </message>
     <message>
         <source>0%</source>
-        <translation type="unfinished"></translation>
+        <translation>0%</translation>
     </message>
 </context>
 <context>
     <name>kelvra_login::UserNameWt</name>
     <message>
         <source>UserNameWt</source>
-        <translation type="unfinished"></translation>
+        <translation>Имя пользователя</translation>
     </message>
     <message>
         <source>user name</source>
-        <translation type="unfinished"></translation>
+        <translation>Имя пользователя</translation>
     </message>
 </context>
 <context>
     <name>kelvra_login::UserPwdWt</name>
     <message>
         <source>UserPwdWt</source>
-        <translation type="unfinished"></translation>
+        <translation>Пароль</translation>
     </message>
     <message>
         <source>password</source>
-        <translation type="unfinished"></translation>
+        <translation>Пароль</translation>
+    </message>
+    <message>
+        <source>Show password</source>
+        <translation>Показать пароль</translation>
     </message>
 </context>
 <context>
     <name>kelvra_login::VerifySecretAnswerWt</name>
     <message>
         <source>VerifySecretAnswerWt</source>
-        <translation type="unfinished"></translation>
+        <translation>Проверка контрольных вопросов</translation>
     </message>
     <message>
         <source>Password protection</source>
-        <translation type="unfinished"></translation>
+        <translation>Защита пароля</translation>
     </message>
     <message>
         <source>Please answer questions or</source>
-        <translation type="unfinished"></translation>
+        <translation>Ответьте на вопросы или</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;&lt;span style=&quot; text-decoration: underline;&quot;&gt;import Credentials&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;&lt;span style=&quot; text-decoration: underline;&quot;&gt;загрузите файл&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>ОК</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;&lt;span style=&quot; font-size:9pt; text-decoration: underline;&quot;&gt;Create New User&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;&lt;span style=&quot; font-size:9pt; text-decoration: underline;&quot;&gt;Новый пользователь&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>verify user answers failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Ответы не прошли проверку</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Назад</translation>
     </message>
 </context>
 </TS>

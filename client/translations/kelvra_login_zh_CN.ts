@@ -151,6 +151,14 @@
         <source>GesturePanel</source>
         <translation>手势面板</translation>
     </message>
+    <message>
+        <source>Gesture pad</source>
+        <translation>手势面板</translation>
+    </message>
+    <message>
+        <source>Drag the mouse over the dots to connect them</source>
+        <translation>按住鼠标拖动以连接各点</translation>
+    </message>
 </context>
 <context>
     <name>kelvra_login::GestureVerifyDlg</name>
@@ -210,6 +218,10 @@
     <message>
         <source>LoginDlg</source>
         <translation>登录</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
     </message>
 </context>
 <context>
@@ -286,6 +298,10 @@
     <message>
         <source>LoginWt</source>
         <translation>登录</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>语言</translation>
     </message>
 </context>
 <context>
@@ -438,6 +454,14 @@
     <message>
         <source>Check QR code login result failure:%1</source>
         <translation>查询二维码登录结果失败：%1</translation>
+    </message>
+    <message>
+        <source>QR code</source>
+        <translation>二维码</translation>
+    </message>
+    <message>
+        <source>Refresh QR code</source>
+        <translation>刷新二维码</translation>
     </message>
 </context>
 <context>
@@ -665,6 +689,14 @@
         <source>Failed to create super user</source>
         <translation>创建超级用户失败</translation>
     </message>
+    <message>
+        <source>Back</source>
+        <translation>返回</translation>
+    </message>
+    <message>
+        <source>Question %1</source>
+        <translation>问题 %1</translation>
+    </message>
 </context>
 <context>
     <name>kelvra_login::SplashScreen</name>
@@ -702,6 +734,10 @@
         <source>password</source>
         <translation>密码</translation>
     </message>
+    <message>
+        <source>Show password</source>
+        <translation>显示密码</translation>
+    </message>
 </context>
 <context>
     <name>kelvra_login::VerifySecretAnswerWt</name>
@@ -732,6 +768,10 @@
     <message>
         <source>verify user answers failed</source>
         <translation>密保答案验证失败</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>返回</translation>
     </message>
 </context>
 </TS>
