@@ -30,6 +30,9 @@ protected:
         return all;
     }
 
+    /** Whether nobody but the owner gets at it. */
+    static bool isPrivate(const QString &path) { return QFile::exists(path) && !(QFile::permissions(path) & 0x77); }
+
     static QByteArray readFile(const QString &path)
     {
         QFile file(path);

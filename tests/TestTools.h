@@ -1,11 +1,9 @@
 #pragma once
 
+#include "WindowParts.h"
 #include "fakehost/Brackets.h"
 #include "login/frame/LoginDlg.h"
 #include "login/frame/LoginSignals.h"
-
-#include <QtTest>
-#include <QtWidgets>
 
 /** What the module's tests share. */
 inline FakeHost &host = FakeHost::get();
@@ -97,7 +95,7 @@ inline QList<kelvra_login::LoginDlg *> dialogs()
 }
 
 /** A test that has one window at a time and records the hub. */
-class WindowTest : public QObject
+class WindowTest : public QObject, protected WindowParts
 {
 protected:
     WindowTest() { recordHub(this); }
@@ -112,23 +110,7 @@ protected:
         host.calls.clear();
     }
 
-    template <typename T = QWidget>
-    T *child(const QString &name) const
-    {
-        return root()->findChild<T *>(name);
-    }
-
-    /** The line edit of that name, or the one in the field of that name. */
-    QLineEdit *edit(const QString &name) const
-    {
-        auto *named = child<QLineEdit>(name);
-        return named ? named : child(name)->findChild<QLineEdit *>();
-    }
-
-    /** What is searched for children. */
-    virtual QWidget *root() const { return window; }
-
-    void click(const QString &name) const { QTest::mouseClick(child(name), Qt::LeftButton); }
+    QWidget *root() const override { return window; }
 
     QPointer<QWidget> window;
 };

@@ -1,17 +1,7 @@
-#include "fakehost/Brackets.h"
-#include "host/ZCommon/ZLineEdit.h"
+#include "TestTools.h"
 #include "host/kelvra_saas/SaasWorker.h"
 #include "login/cloud/QRCodeLoginPanel.h"
-#include "login/frame/LoginSignals.h"
 #include "login/local/NormalLoginWt.h"
-#include "login/superuser/LoginMethodSelWt.h"
-
-#include <QCheckBox>
-#include <QLabel>
-#include <QPushButton>
-#include <QStackedWidget>
-#include <QToolTip>
-#include <QtTest>
 
 #include <optional>
 
@@ -20,41 +10,24 @@ using namespace kelvra_login;
 namespace {
 
 const QString phone = "13912345678";
-
-FakeHost &host = FakeHost::get();
 auto &resend = kelvra_saas::SaasWorker::_instance();
-
-/** What was asked, recorded and told since the last call, in order. */
-QString deeds()
-{
-    static const QRegularExpression wanted("^(addSuper|cancel|getVer|login|mess|resetVer|setCur|signal)");
-    return std::exchange(host.calls, {}).filter(wanted).join(' ');
-}
 
 } // namespace
 
-class TestCloudPages : public QObject
+class TestCloudPages : public WindowTest
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        connect(&LoginSignals::_instance(), &LoginSignals::signalSaasLoginEvent, this,
-                [](SaasLoginEvent event, const QStringList &params) {
-                    host.record("signal", QStringList(QString::number(event)) + params);
-                });
-    }
-
     void init()
     {
-        host.reset();
+        resetHost();
         host.customization.cloudLoginEnabled = true;
         host.recentAccount = phone;
-        open();
+        openForm();
     }
 
-    void cleanup() { form.reset(); }
+    void cleanup() { delete window; }
 
     void answers_data()
     {
@@ -70,7 +43,7 @@ private slots:
         row("password", 2231, lock);
         row("password", 2204, loginFailed);
         row("password", 2229,
-            "signal(1,13912345678) messageAlert(It is currently a non secure terminal,Please log in "
+            "signalSaasLoginEvent(1,13912345678) messageAlert(It is currently a non secure terminal,Please log in "
             "as a verification code)");
         row("code", 2204, lock);
         row("code", 2203, loginFailed.arg("invalid account"));
@@ -96,7 +69,7 @@ private slots:
         QCOMPARE(deeds(), call == "account" ? road : QString());
         const auto second = call == "account" ? ask(call) : first;
         QVERIFY(!login || state("loginBt") == "Logging in... busy");
-        form->hide();
+        window->hide();
         std::optional<Brackets> language;
         QString meanwhile;
         host.whileAlertIsOpen = [&] {
@@ -111,7 +84,7 @@ private slots:
         QVERIFY(!login || state("loginBt") == "[Login]");
         language.reset();
 
-        form->show();
+        window->show();
         const auto third = ask(call);
         QVERIFY(third.requestId.size() > 30 && third.requestId != first.requestId);
         second.answer(1000);
@@ -121,19 +94,20 @@ private slots:
         const QString success = call == "request"
                                     ? "messageAlert(Get verificaion code success, please check the verification code "
                                       "on your mobile phone)"
-                                    : "addSuperUserFromSaasUser(13912345678) setCurUserInfo(2,13912345678,,0,true)";
+                                    : "addSuperUserFromSaasUser(13912345678) setCurUserInfo(2,13912345678,,0,true) " +
+                                          endOfLogin + " setValue(client_login_mode,0)";
         QCOMPARE(deeds(), success);
         QCOMPARE(host.alerts.last().first, QString(call == "request" ? "title 2" : "title 1"));
         QVERIFY(!login || state("loginBt").endsWith("busy")); // the dialog moves on
 
-        open();
+        openForm();
         const auto fourth = ask(call);
-        host.whileAlertIsOpen = [this] { form.reset(); };
+        host.whileAlertIsOpen = [this] { delete window; };
         fourth.answer(code);
-        QVERIFY(!form);
-        open();
+        QVERIFY(!window);
+        openForm();
         const auto last = ask(call);
-        form.reset();
+        delete window;
         deeds();
         last.answer(code);
         last.answer(1000);
@@ -143,29 +117,29 @@ private slots:
     void submissions()
     {
         for (const int key : {0, int(Qt::Key_Return), int(Qt::Key_Enter)}) {
-            open();
+            openForm();
             QCOMPARE(submit(0, phone, "1234 678", key), QString("login(13912345678,1234 678,,PASSWORD)"));
             QCOMPARE(submit(1, phone, "123456", key), QString("login(13912345678,,123456,VERIFY_CODE)"));
             QCOMPARE(submit(0, phone, "1234 678", key) + submit(1, phone, "123456", key), QString());
         }
-        open();
-        const QString number = "Illegal mobile phone number";
-        const QString code = "Invalid verification code";
-        QCOMPARE(tipAt("userWt", submit(0, "1391234567", "")), number);
-        QCOMPARE(tipAt("pwdWt", submit(0, phone, "1234567")), QString("Invalid password"));
-        QCOMPARE(tipAt("userWt", submit(1, "", "123456")), number);
-        QCOMPARE(tipAt("verificationCode", submit(1, phone, "12345")), code);
-        QCOMPARE(tipAt("userWt", submit(1, "1", "")), number);
-        QCOMPARE(tipAt("verificationCode", submit(1, phone, "1234567")), code);
+        openForm();
+        const QString number = "userName: Illegal mobile phone number";
+        const QString code = "verificationCode: Invalid verification code";
+        QCOMPARE(submit(0, "1391234567", ""), number);
+        QCOMPARE(submit(0, phone, "1234567"), QString("pwd: Invalid password"));
+        QCOMPARE(submit(1, "", "123456"), number);
+        QCOMPARE(submit(1, phone, "12345"), code);
+        QCOMPARE(submit(1, "1", ""), number);
+        QCOMPARE(submit(1, phone, "1234567"), code);
         child<QLineEdit>("userName")->clear();
         click("getVerificationCodeBt");
-        QCOMPARE(tipAt("userWt", deeds()), number);
+        QCOMPARE(outcome(), number);
     }
 
     void countdown()
     {
         host.resendSeconds = 42;
-        open();
+        openForm();
         showPage(1);
         QCOMPARE(state("getVerificationCodeBt"), QString("42S off"));
         {
@@ -178,7 +152,7 @@ private slots:
         QCOMPARE(state("getVerificationCodeBt"), QString("Get Verification Code"));
         secret()->setText("old");
         click("getVerificationCodeBt");
-        QCOMPARE(deeds(),
+        QCOMPARE(host.callsOf({"resetVerificationCodeRemainingSecs", "getVerificationCode"}).join(' '),
                  QString("resetVerificationCodeRemainingSecs(60) getVerificationCode(13912345678,LOGIN,PHONE)"));
         QVERIFY(secret()->text().isEmpty() && secret()->hasFocus());
         host.cloudCalls.last().answer(1001);
@@ -207,16 +181,15 @@ private slots:
     void links()
     {
         for (const QString row :
-             {"0 verificationCodeLogin signal(1,13912345678)", "0 QRCodeLogin signal(2,13912345678)",
-              "1 passwordLogin signal(0,13912345678)", "1 QRCodeLogin signal(2,13912345678)",
-              "2 verificationCodeLogin signal(1)", "2 passwordLogin signal(0)"}) {
+             {"0 verificationCodeLogin 1,13912345678", "0 QRCodeLogin 2,13912345678", "1 passwordLogin 0,13912345678",
+              "1 QRCodeLogin 2,13912345678", "2 verificationCodeLogin 1", "2 passwordLogin 0"}) {
             const QStringList link = row.split(' ');
             showPage(link[0].toInt());
-            QTest::mouseClick(child<QLabel>(link[1]), Qt::RightButton);
-            QTest::mousePress(child<QLabel>(link[1]), Qt::LeftButton);
+            QTest::mouseClick(child(link[1]), Qt::RightButton);
+            QTest::mousePress(child(link[1]), Qt::LeftButton);
             QCOMPARE(deeds(), QString());
-            QTest::mouseRelease(child<QLabel>(link[1]), Qt::LeftButton);
-            QCOMPARE(deeds(), link[2]);
+            QTest::mouseRelease(child(link[1]), Qt::LeftButton);
+            QCOMPARE(deeds(), "signalSaasLoginEvent(" + link[2] + ")");
             QVERIFY(!page->isVisible());
         }
     }
@@ -238,43 +211,28 @@ private slots:
         QVERIFY(child<QLineEdit>("pwd")->hasFocus());
         host.loginSuccess = true; // somebody has logged in by hand meanwhile
         late.answer(1000);
-        host.recentAccount.clear();
-        open();
         QCOMPARE(deeds(), QString());
+        host.recentAccount.clear();
+        openForm();
         QVERIFY(child<QLineEdit>("userName")->hasFocus());
     }
 
-    void firstRun()
-    {
-        QObject router;
-        connect(&LoginSignals::_instance(), &LoginSignals::signalLoginEvent, &router, [this] { open(); });
-        LoginMethodSelWt methods(nullptr);
-        QTest::mouseClick(methods.findChild<QPushButton *>("saasUserBt"), Qt::LeftButton);
-        QCOMPARE(deeds(), QString("signal(0)"));
-        QVERIFY(page->isVisible() && host.autoLogins.isEmpty() && host.lastUserType == kelvra_worker::CloudUser);
-    }
-
 private:
-    void open()
+    void openForm()
     {
-        form = std::make_unique<NormalLoginWt>(nullptr);
-        form->show();
-        QVERIFY(QTest::qWaitForWindowActive(form.get()));
-        page = form->findChild<QWidget *>("saasPwdLoginPage");
+        page = nullptr;
+        open(new NormalLoginWt(nullptr));
+        page = window->findChild<QWidget *>("saasPwdLoginPage");
     }
 
     void showPage(int number)
     {
         emit LoginSignals::_instance().signalSaasLoginEvent(SaasLoginEvent(number), {});
-        page = form->findChild<QStackedWidget *>("stackedWidget")->currentWidget();
+        page = window->findChild<QStackedWidget *>("stackedWidget")->currentWidget();
         deeds();
     }
 
-    template <typename T>
-    T *child(const QString &name) const
-    {
-        return page->findChild<T *>(name);
-    }
+    QWidget *root() const override { return page; }
 
     QLineEdit *secret() const
     {
@@ -282,26 +240,22 @@ private:
         return code ? code : child<QLineEdit>("pwd");
     }
 
-    void click(const char *button) { QTest::mouseClick(child<QPushButton>(button), Qt::LeftButton); }
-
     QString state(const char *button) const
     {
         const auto *bt = child<QPushButton>(button);
         return bt->text() + (bt->isEnabled() ? "" : " off") + (bt->property("is_logging_in").toBool() ? " busy" : "");
     }
 
-    // What has been done, and the tip at the field's corner, but for the room that it leaves the pointer.
-    QString tipAt(const char *field, const QString &done) const
+    // What has been done, or the tip that hangs from a field.
+    QString outcome() const
     {
-        const QRect room(child<QWidget>(field)->mapToGlobal({0, 0}), QSize(10, 30));
-        for (const QWidget *window : QApplication::topLevelWidgets()) {
-            if (window->inherits("QTipLabel") && window->isVisible() && room.contains(window->pos()))
-                return done + QToolTip::text();
-        }
-        return done;
+        QString all = deeds();
+        for (const QLineEdit *field : {child<QLineEdit>("userName"), secret()})
+            all += tipAt(field).isEmpty() ? QString() : field->objectName() + ": " + tipAt(field);
+        return all;
     }
 
-    // What is done when the login button, or a key in a field, is pressed on a page filled in so.
+    // What comes of it when the login button, or a key in a field, is pressed on a page filled in so.
     QString submit(int number, const QString &account, const QString &entered, int key = 0)
     {
         showPage(number);
@@ -311,14 +265,14 @@ private:
             QTest::keyClick(key == Qt::Key_Enter ? secret() : child<QLineEdit>("userName"), Qt::Key(key));
         else
             click("loginBt");
-        return deeds();
+        return outcome();
     }
 
     FakeHost::CloudCall ask(const QString &call)
     {
         if (call == "automatic") {
             host.lastUserType = kelvra_worker::CloudUser;
-            open();
+            openForm();
             const auto asked = host.autoLogins.last();
             return {asked.requestId,
                     [asked](const kelvra_saas::Response &response) { asked.answer(response, asked.account); }};
@@ -337,7 +291,6 @@ private:
         return host.cloudCalls.takeLast();
     }
 
-    std::unique_ptr<NormalLoginWt> form;
     QWidget *page = nullptr;
 };
 

@@ -203,7 +203,8 @@ private slots:
         const QImage custom = SplashScreen().grab().toImage();
         QVERIFY(custom.pixelColor(2, 2) == Qt::red && custom.pixelColor(857, 497) == Qt::blue);
 
-        const QImage builtIn(":/login_images/images/img_bg_loading.png");
+        const QImage builtIn = QImage(":/login_images/images/img_bg_loading.png")
+                                   .scaled(860, 500, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
         host.customization.customLoadingImageEnabled = false;
         QCOMPARE(difference(SplashScreen().grab().toImage(), builtIn), track);
         host.customization.customLoadingImageEnabled = true;

@@ -235,6 +235,7 @@ private slots:
         const QWidget *name = child("localUserWt");
         const QWidget *password = child("localPwdWt");
         QTest::mouseMove(child("label"));
+        nameEdit()->setFocus();
         QVERIFY(nameEdit()->hasFocus() && isFramed(name) && !isFramed(password));
         QTest::keyClick(nameEdit(), Qt::Key_Tab);
         QVERIFY(pwdEdit()->hasFocus() && !isFramed(name) && isFramed(password));

@@ -6,18 +6,14 @@
 #include "host/kelvra_saas/LoginWorker.h"
 #include "host/kelvra_worker/SystemWorker.h"
 #include "tests/DataFolderTest.h"
-
-#include <QClipboard>
-#include <QComboBox>
-#include <QLabel>
-#include <QScreen>
+#include "tests/WindowParts.h"
 
 using namespace kelvra_saas;
 using kelvra_client::CloudSide;
 using kelvra_data::Store;
 using kelvra_data::UserData;
 
-class TestPhone : public DataFolderTest
+class TestPhone : public DataFolderTest, private WindowParts
 {
     Q_OBJECT
 
@@ -90,7 +86,7 @@ private slots:
                                                  {LoginWorker::QRCodeCancelled, "cancelScanBt"},
                                                  {LoginWorker::QRCodeIllegalOperation, "refuseOperationBt"},
                                                  {LoginWorker::QRCodeIllegalAddress, "refuseAddressBt"}};
-        QTest::keyClick(phone->findChild<QComboBox *>("accountBox"), Qt::Key_Down);
+        QTest::keyClick(child("accountBox"), Qt::Key_Down);
         for (auto answer = answers.begin(); answer != answers.end(); ++answer) {
             QCOMPARE(ask(qrCodeOperation), 1000);
             click("scanBt");
@@ -103,19 +99,6 @@ private slots:
         }
     }
 
-    void networkAndLockAreAtHand()
-    {
-        for (const bool on : {false, true}) {
-            click("networkSwitch", QPoint(10, 10));
-            QCOMPARE(ask(qrCodeOperation) == 1000, on);
-        }
-        for (int error = 0; error < 5; ++error)
-            ask(loginOperation, {{accountField, ada}, {loginTypeField, "PASSWORD"}, {passwordField, "?"}});
-        QVERIFY2(isShown("lockRow") && text("accountLock").startsWith("Locked, "), qPrintable(text("accountLock")));
-        click("unlockBt");
-        QVERIFY(!isShown("lockRow") && SaasSetup::simulation()->lockedSeconds(ada) == 0);
-    }
-
 private:
     /** The code of what the cloud answers to another computer. */
     static int ask(const char *operation, QVariantMap fields = {})
@@ -126,12 +109,7 @@ private:
         return QTest::qWaitFor([&] { return code != 0; }) ? code : -1;
     }
 
-    void click(const char *name, const QPoint &at = {}) const
-    {
-        QTest::mouseClick(phone->findChild<QWidget *>(name), Qt::LeftButton, {}, at);
-    }
-    QString text(const char *name) const { return phone->findChild<QLabel *>(name)->text(); }
-    bool isShown(const char *name) const { return phone->findChild<QWidget *>(name)->isVisible(); }
+    QWidget *root() const override { return phone; }
 
     const QString ada = QStringLiteral("13800000001");
     std::unique_ptr<CloudSide> side;

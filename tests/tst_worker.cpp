@@ -3,17 +3,13 @@
 #include "client/kelvra_worker/Languages.h"
 #include "client/kelvra_worker/WorkerSetup.h"
 #include "host/kelvra_worker/DictDef.h"
-#include "host/kelvra_worker/LoginLogs.h"
 #include "host/kelvra_worker/SysLanguage.h"
 #include "host/kelvra_worker/SystemWorker.h"
 #include "host/kelvra_worker/UiSettings.h"
 #include "tests/DataFolderTest.h"
 
-#include <QApplication>
 #include <QLabel>
-#include <QRegularExpression>
 #include <QSettings>
-#include <QTimer>
 
 using namespace kelvra_worker;
 using kelvra_data::Store;
@@ -137,52 +133,32 @@ private slots:
             QVERIFY2(!file->contains("p4ssPhrase") && !file->contains("0therSecret"), qPrintable(file.key()));
     }
 
-    void auditEntriesAreStored()
-    {
-        LoginLogs::_instance().loginSuccessLog("bob", 1, true);
-        LoginLogs::_instance().loginFailureLog("bob", 0);
-        LoginLogs::_instance().lockUserLog("bob", 180);
-        LoginLogs::_instance().resetUserPwdLog("bob");
-        QStringList stored;
-        for (const kelvra_data::AuditEntry &entry : Store::_instance().auditLog(10)) {
-            QVERIFY(qAbs(entry.at.secsTo(QDateTime::currentDateTime())) < 60);
-            stored << entry.event + QString(" %1 %2 %3").arg(entry.method).arg(entry.autoLogin).arg(entry.seconds);
-        }
-        QCOMPARE(stored, QStringList({"reset password -1 -1 -1", "lock -1 -1 180", "login failure 0 -1 -1",
-                                      "login success 1 1 -1"}));
-    }
-
-    void customisation_data()
-    {
-        QTest::addColumn<QByteArray>("content");
-        QTest::addColumn<QString>("record"); // "~" stands for the folder of the file
-        QTest::addColumn<QString>("problem");
-        const auto row = [](const char *tag, const QByteArray &content, const char *record, const char *problem) {
-            QTest::newRow(tag) << content << QString(record) << QString(problem);
-        };
-        row("empty", "; nothing\n", "1 0 0 ", "");
-        const QByteArray set("[login]\ncloud_login=False\n[loading]\ncustom_image=1\nimage=/a/图.png\n"
-                             "[recovery]\nreplace_superuser=true\n");
-        row("set", set, "0 1 1 /a/图.png", "");
-        row("beside", "[loading]\nimage=\"a, b.png\"\n", "1 0 0 ~/a, b.png", "");
-        row("no flag", "[login]\ncloud_login=maybe\n[loading]\ncustom_image=true\n", "1 1 0 ",
-            "login/cloud_login .*customize.ini");
-        row("list", "[loading]\nimage=a,b.png\n", "1 0 0 ", "loading/image .*customize.ini");
-        row("damaged", "[login\ncloud_login=true\n", "1 0 0 ", "customize.ini is damaged");
-    }
-
     void customisation()
     {
-        QFETCH(QByteArray, content);
-        QFETCH(QString, record);
-        QFETCH(QString, problem);
-        writeFile(at("customize.ini"), content);
-        CustomizeFile customization(at("customize.ini"));
-        QString error;
-        QCOMPARE(customization.read(&error), problem.isEmpty());
-        QVERIFY2(problem.isEmpty() ? error.isEmpty() : error.contains(QRegularExpression(problem)), qPrintable(error));
-        QCOMPARE(textOf(customization), record.replace("~/", at()));
-        QCOMPARE(readFile(at("customize.ini")), content);
+        struct Row
+        {
+            QByteArray content;
+            QString record;  // "~" stands for the folder of the file
+            QString problem; // empty for none
+        };
+        const QVector<Row> rows = {{"; nothing\n", "1 0 0 ", ""},
+                                   {"[login]\ncloud_login=False\n[loading]\ncustom_image=1\nimage=/a/图.png\n"
+                                    "[recovery]\nreplace_superuser=true\n",
+                                    "0 1 1 /a/图.png", ""},
+                                   {"[loading]\nimage=\"a, b.png\"\n", "1 0 0 ~/a, b.png", ""},
+                                   {"[login]\ncloud_login=maybe\n[loading]\ncustom_image=true\n", "1 1 0 ",
+                                    "login/cloud_login .*customize.ini"},
+                                   {"[loading]\nimage=a,b.png\n", "1 0 0 ", "loading/image .*customize.ini"},
+                                   {"[login\ncloud_login=true\n", "1 0 0 ", "customize.ini is damaged"}};
+        for (const Row &row : rows) {
+            writeFile(at("customize.ini"), row.content);
+            CustomizeFile customization(at("customize.ini"));
+            QString error;
+            QCOMPARE(customization.read(&error), row.problem.isEmpty());
+            QVERIFY2(error.contains(QRegularExpression(row.problem.isEmpty() ? "^$" : row.problem)), qPrintable(error));
+            QCOMPARE(textOf(customization), QString(row.record).replace("~/", at()));
+            QCOMPARE(readFile(at("customize.ini")), row.content);
+        }
     }
 
     void customisationIsCreatedForEditing()

@@ -89,6 +89,7 @@ AlertBox::AlertBox(QWidget *parent, Icon icon, const QString &title, const QStri
     setTitle(title);
     createButtons(buttons);
     setUpLayout(icon, text);
+    setAccessibleDescription(text);
     retranslateUi();
 }
 
@@ -117,6 +118,7 @@ void AlertBox::setUpLayout(Icon icon, const QString &text)
 {
     auto *picture = new QLabel(this);
     picture->setFixedSize(iconSize, iconSize);
+    picture->setScaledContents(true); // smooth at a broken scale factor
     picture->setPixmap(QPixmap(iconPath(icon)));
     auto *label = new QLabel(this);
     label->setObjectName(QStringLiteral("text"));

@@ -47,6 +47,7 @@ public:
     }
 
     void createButtons(bool resizeBts, bool close);
+    void nameButtons() const;
     void placeButtons();
     int titleRight() const;
     void paint(QPainter &painter) const;
@@ -74,6 +75,16 @@ void CommonDialog::Private::createButtons(bool resizeBts, bool close)
         connect(maximizeBt, &QPushButton::clicked, dialog, &CommonDialog::slotMaximizeBtClicked);
         minimizeBt = createFrameButton(dialog, "minimizeBt");
         connect(minimizeBt, &QPushButton::clicked, dialog, &CommonDialog::slotMinimizeBtClicked);
+    }
+}
+
+void CommonDialog::Private::nameButtons() const
+{
+    if (closeBt)
+        closeBt->setAccessibleName(CommonDialog::tr("Close"));
+    if (maximizeBt) {
+        maximizeBt->setAccessibleName(CommonDialog::tr("Maximize"));
+        minimizeBt->setAccessibleName(CommonDialog::tr("Minimize"));
     }
 }
 
@@ -147,6 +158,7 @@ CommonDialog::CommonDialog(QWidget *parent, int resizeFlag, int closeBtFlag)
     colors.setColor(QPalette::Window, bodyColor);
     setPalette(colors);
     d->createButtons(resizeFlag != 0, closeBtFlag != 0);
+    d->nameButtons();
     d->placeButtons();
 }
 
@@ -223,6 +235,9 @@ bool CommonDialog::event(QEvent *event)
     case QEvent::Close:
         if (d->takesClose(static_cast<QCloseEvent *>(event)))
             return true;
+        break;
+    case QEvent::LanguageChange:
+        d->nameButtons();
         break;
     case QEvent::WindowStateChange:
         if (d->maximizeBt)

@@ -8,7 +8,8 @@ LogoLabel::LogoLabel(QWidget *parent)
     : QLabel(parent)
 {
     setPixmap(QPixmap(QStringLiteral(":/images/images/logo.png")));
-    adjustSize();
+    setScaledContents(true); // smooth at a broken scale factor
+    setFixedSize(sizeHint());
 }
 
 LogoLabel::~LogoLabel() = default;

@@ -55,6 +55,9 @@ void SignInWt::showGesture()
     ui->setOwnGestureBt->setToolTip(local ? QString() : reason);
     ui->deleteOwnGestureBt->setToolTip(reason);
     ui->verifyGestureBt->setToolTip(reason);
+    // Heard by themselves, their texts do not tell what they are about.
+    for (QPushButton *button : {ui->setOwnGestureBt, ui->deleteOwnGestureBt, ui->verifyGestureBt})
+        button->setAccessibleName(QStringLiteral("%1: %2").arg(ui->gestureCaption->text(), button->text()));
 }
 
 void SignInWt::showAutoLogin()

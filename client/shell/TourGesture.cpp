@@ -193,7 +193,7 @@ QVector<TourStep> lock()
 QVector<TourStep> restartWhileLocked()
 {
     return {
-        step("start again", look, pad + "; " + lockButton, like(closed + "; " + lockPattern), "", noAutoLoginMs),
+        step("start again", look, pad + "; " + lockButton, like(closed + "; " + lockPattern)),
         quit("press Escape", press(Qt::Key_Escape)),
     };
 }

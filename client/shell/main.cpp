@@ -20,6 +20,11 @@ void describeApplication()
 {
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+#ifdef Q_OS_WIN
+    // A screen at 125 or 150 % is served as it is. On X11 the dots per inch often only measure the glass, and a
+    // factor of 1.04 would blur for nothing: there broken factors are asked for with QT_SCALE_FACTOR.
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+#endif
     QCoreApplication::setAttribute(Qt::AA_DisableWindowContextHelpButton);
     QCoreApplication::setOrganizationName(QStringLiteral("kelvra"));
     QCoreApplication::setApplicationName(QStringLiteral("kelvra_client"));

@@ -48,6 +48,13 @@ void setUpPhoneField(QWidget *page, UserNameWt *field)
                      });
 }
 
+void handFocusOn(QWidget *page, UserNameWt *field, QWidget *secret)
+{
+    const auto choose = [page, field, secret] { page->setFocusProxy(field->text().isEmpty() ? field : secret); };
+    choose();
+    QObject::connect(field->lineEdit(), &QLineEdit::textChanged, page, choose);
+}
+
 void setPhonePlaceholder(UserNameWt *field)
 {
     field->setPlaceholderText(translated(QT_TRANSLATE_NOOP("kelvra_login::CloudPageParts", "Phone Number")));

@@ -28,6 +28,8 @@ class UserNameWt;
  * first, and is kept in step with the fields of the other pages.
  */
 void setUpPhoneField(QWidget *page, UserNameWt *field);
+/** From now on `page` hands the keyboard focus on: to `field` while it is empty, then to `secret`. */
+void handFocusOn(QWidget *page, UserNameWt *field, QWidget *secret);
 /** Sets the field's placeholder, in the language in force. */
 void setPhonePlaceholder(UserNameWt *field);
 /** Whether the field holds a number of the right length; if not, a tip at the field says so. */

@@ -99,11 +99,18 @@ void QRCodeLoginPanel::init()
         QStringLiteral("QPushButton{border-image:url(:/mainWnd_images/images/refresh_QRCode_n.png);}"
                        "QPushButton:hover{border-image:url(:/mainWnd_images/images/refresh_QRCode_h.png);}"));
     refreshBt->setAutoDefault(false);
+    nameParts();
     setQRCodeMaskWtVisible(false);
     ui->QRCode->installEventFilter(this);
 
     connect(statusTimer, &QTimer::timeout, this, &QRCodeLoginPanel::slotCheckLoginStatusTimeout);
     connect(refreshBt, &QPushButton::clicked, this, &QRCodeLoginPanel::refreshQRCode);
+}
+
+void QRCodeLoginPanel::nameParts()
+{
+    ui->QRCode->setAccessibleName(tr("QR code"));
+    refreshBt->setAccessibleName(tr("Refresh QR code"));
 }
 
 void QRCodeLoginPanel::setQRCodeSize(int size)
@@ -290,6 +297,7 @@ void QRCodeLoginPanel::changeEvent(QEvent *event)
     // The form is not retranslated: that would empty the code on show.
     if (event->type() == QEvent::LanguageChange) {
         retranslate();
+        nameParts();
         ui->QRCodeTitle->setText(titles.value(ui->QRCodeTitle->property(titleProperty).toInt()));
     }
     QWidget::changeEvent(event);

@@ -72,6 +72,7 @@ private slots:
 
 private:
     void init();
+    void nameParts();
     void retranslate();
     void placeOverlays();
     void setTitle(int titleId, const QString &title);

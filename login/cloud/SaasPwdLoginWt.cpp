@@ -37,10 +37,7 @@ SaasPwdLoginWt::SaasPwdLoginWt(QWidget *parent)
     setUpPhoneField(this, ui->userWt);
     password->setValidator(new QRegExpValidator(QRegExp(QStringLiteral("^\\S+$")), password));
     followFocus(this, ui->pwdWt);
-    if (account().isEmpty())
-        setFocusProxy(ui->userWt);
-    else
-        setFocusProxy(ui->pwdWt);
+    handFocusOn(this, ui->userWt, ui->pwdWt);
     ui->verificationCodeLogin->installEventFilter(this);
     ui->QRCodeLogin->installEventFilter(this);
     connect(ui->loginBt, &QPushButton::clicked, this, &SaasPwdLoginWt::login);

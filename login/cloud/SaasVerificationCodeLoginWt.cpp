@@ -34,6 +34,7 @@ SaasVerificationCodeLoginWt::SaasVerificationCodeLoginWt(QWidget *parent)
 {
     ui->setupUi(this);
     setUpPhoneField(this, ui->userWt);
+    handFocusOn(this, ui->userWt, ui->verificationCode);
     ui->passwordLogin->installEventFilter(this);
     ui->QRCodeLogin->installEventFilter(this);
 

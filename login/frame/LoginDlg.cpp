@@ -64,6 +64,7 @@ void LoginDlg::createOverlays()
 
     closeBt = new QPushButton(this);
     closeBt->setObjectName(QStringLiteral("closeBt"));
+    closeBt->setAccessibleName(tr("Close"));
     closeBt->setFixedSize(closeBtSize, closeBtSize);
     closeBt->setAutoDefault(false);
     closeBt->setDefault(false);
@@ -174,8 +175,10 @@ void LoginDlg::resizeEvent(QResizeEvent *event)
 
 void LoginDlg::changeEvent(QEvent *event)
 {
-    if (event->type() == QEvent::LanguageChange)
+    if (event->type() == QEvent::LanguageChange) {
         ui->retranslateUi(this);
+        closeBt->setAccessibleName(tr("Close"));
+    }
     MoveableDialog::changeEvent(event);
 }
 

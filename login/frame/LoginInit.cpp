@@ -2,6 +2,7 @@
 
 #include "login/frame/LoginWorker.h"
 #include "login/frame/Screens.h"
+#include "login/local/AccessiblePassword.h"
 
 #include <QCoreApplication>
 
@@ -24,6 +25,8 @@ LoginInit::LoginInit(QObject *parent)
     : ModuleInitialization(parent)
 {
     enterScreens();
+    // At once, for the host's own password fields as well.
+    AccessiblePassword::install();
     loadStyleSheet(styleSheetPath);
 }
 

@@ -75,7 +75,7 @@ void SplashScreen::paintEvent(QPaintEvent *event)
         QPainter painter(this);
         painter.setPen(Qt::NoPen);
         painter.setRenderHint(QPainter::SmoothPixmapTransform);
-        painter.drawPixmap(rect(), background);
+        backdrop.paint(&painter, rect(), background);
 
         painter.setRenderHint(QPainter::Antialiasing);
         const int top = height() - barBottom;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/ZCommon/ZWidget.h"
+#include "login/local/Backdrop.h"
 
 #include <QPixmap>
 
@@ -45,6 +46,7 @@ private:
     const std::unique_ptr<Ui::SplashScreen> ui;
     int progress = 0;
     QPixmap background;
+    Backdrop backdrop;
     ZCOMMON::SmoothProgress *smoothProgress = nullptr;
 };
 

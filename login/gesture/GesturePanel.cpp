@@ -1,5 +1,6 @@
 #include "login/gesture/GesturePanel.h"
 
+#include "login/gesture/AccessiblePad.h"
 #include "login/gesture/GesturePoint.h"
 #include "ui_GesturePanel.h"
 
@@ -52,6 +53,7 @@ GesturePanel::GesturePanel(QWidget *parent)
     overlay->setAttribute(Qt::WA_NoSystemBackground);
     overlay->raise();
     overlay->installEventFilter(this);
+    AccessiblePad::install();
 }
 
 GesturePanel::~GesturePanel() = default;

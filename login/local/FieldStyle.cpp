@@ -16,6 +16,11 @@ void showFieldError(QLineEdit *lineEdit, const QString &text)
     QToolTip::showText(lineEdit->mapToGlobal(QPoint(0, 0)), text, lineEdit);
 }
 
+void nameAfterPlaceholder(QLineEdit *lineEdit)
+{
+    lineEdit->setAccessibleName(lineEdit->placeholderText());
+}
+
 FieldContent::FieldContent(QLineEdit *edit, bool keep)
     : lineEdit(edit)
     , keepPlaceholder(keep)
@@ -31,6 +36,7 @@ void FieldContent::restore() const
     // The owner hears of a new language first, and its placeholder is the one to keep.
     if (keepPlaceholder)
         lineEdit->setPlaceholderText(placeholder);
+    nameAfterPlaceholder(lineEdit);
 }
 
 } // namespace kelvra_login

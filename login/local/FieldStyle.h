@@ -32,6 +32,9 @@ void applyStyle(QWidget *widget, const QString &styleSheet);
 /** Shows `text` as a tool tip at the line edit's top left corner. */
 void showFieldError(QLineEdit *lineEdit, const QString &text);
 
+/** Gives the line edit's placeholder to assistive technology for its name. */
+void nameAfterPlaceholder(QLineEdit *lineEdit);
+
 /** Keeps what a re-translation of a field's form would take from its line edit. */
 class FieldContent
 {

@@ -8,6 +8,7 @@
 #include <QEvent>
 #include <QListWidget>
 #include <QPainter>
+#include <QShortcut>
 
 using kelvra_base::ComboBox;
 using kelvra_worker::SysLanguage;
@@ -48,13 +49,25 @@ void LoginWt::createLanguageBox()
     const QMap<int, QString> names = SysLanguage::_instance().getLanguageNames();
     for (auto name = names.constBegin(); name != names.constEnd(); ++name)
         languageBox->addItem(name.value(), name.key());
+    nameLanguageBox();
     languageBox->setCurrentText(names.value(SysLanguage::_instance().getLanguage()));
+
+    // The box takes no focus.
+    auto *boxKey = new QShortcut(Qt::ALT | Qt::Key_L, this);
+    connect(boxKey, &QShortcut::activated, languageBox, &QComboBox::showPopup);
 
     // Only now: filling the box is no choice of the user's.
     connect(languageBox, QOverload<int>::of(&QComboBox::currentIndexChanged), this, [this](int index) {
         const int id = languageBox->itemData(index).toInt();
         SysLanguage::_instance().setLanguage(static_cast<kelvra_worker::Language>(id), true);
     });
+}
+
+void LoginWt::nameLanguageBox()
+{
+    languageBox->setAccessibleName(tr("Language"));
+    // On some systems a combo box gives its current text for its name.
+    languageBox->setAccessibleDescription(languageBox->accessibleName());
 }
 
 QWidget *LoginWt::screen(LoginEvent event) const
@@ -114,8 +127,10 @@ void LoginWt::resizeEvent(QResizeEvent *event)
 
 void LoginWt::changeEvent(QEvent *event)
 {
-    if (event->type() == QEvent::LanguageChange)
+    if (event->type() == QEvent::LanguageChange) {
         ui->retranslateUi(this);
+        nameLanguageBox();
+    }
     ZWidget::changeEvent(event);
 }
 
@@ -124,8 +139,7 @@ void LoginWt::paintEvent(QPaintEvent *event)
     {
         QPainter painter(this);
         painter.setPen(Qt::NoPen);
-        painter.setRenderHint(QPainter::SmoothPixmapTransform);
-        painter.drawPixmap(rect(), QPixmap(QStringLiteral(":/login_images/images/img_bg_login.png")));
+        backdrop.paint(&painter, rect(), QPixmap(QStringLiteral(":/login_images/images/img_bg_login.png")));
     }
     ZWidget::paintEvent(event);
 }

@@ -3,6 +3,7 @@
 #include "host/ZCommon/ZWidget.h"
 #include "login/frame/LoginEvent.h"
 #include "login/frame/LoginSignals.h"
+#include "login/local/Backdrop.h"
 
 #include <QMap>
 #include <QStringList>
@@ -51,9 +52,11 @@ protected:
 
 private:
     void createLanguageBox();
+    void nameLanguageBox();
 
     const std::unique_ptr<Ui::LoginWt> ui;
     QMap<int, int> pageIndex;
+    Backdrop backdrop;
     QWidget *tip = nullptr;
     kelvra_base::ComboBox *languageBox = nullptr;
 };

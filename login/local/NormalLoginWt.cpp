@@ -144,8 +144,14 @@ void NormalLoginWt::connectFields()
 
 void NormalLoginWt::connectPages()
 {
-    connect(ui->localUserTab, &QPushButton::clicked, this, [this] { selectTab(false, ui->localPwdLoginPage); });
-    connect(ui->saasUserTab, &QPushButton::clicked, this, [this] { selectTab(true, currentCloudPage); });
+    connect(ui->localUserTab, &QPushButton::clicked, this, [this] {
+        selectTab(false, ui->localPwdLoginPage);
+        focusField();
+    });
+    connect(ui->saasUserTab, &QPushButton::clicked, this, [this] {
+        selectTab(true, currentCloudPage);
+        focusField();
+    });
 }
 
 void NormalLoginWt::connectHub()
@@ -156,6 +162,8 @@ void NormalLoginWt::connectHub()
     connect(&hub, &LoginSignals::signalSaasLoginEvent, this, [this](SaasLoginEvent event) {
         currentCloudPage = cloudPages.value(event);
         selectTab(true, currentCloudPage);
+        if (isVisible())
+            focusField();
     });
     connect(&hub, &LoginSignals::signalDefaultLocalSuperUserMethodSelected, this,
             [this](const QString &userName, const QString &pwd) {
@@ -170,6 +178,19 @@ void NormalLoginWt::selectTab(bool cloud, QWidget *page)
     ui->saasUserTab->setChecked(cloud);
     if (page)
         ui->stackedWidget->setCurrentWidget(page);
+}
+
+void NormalLoginWt::focusField()
+{
+    const QWidget *page = ui->stackedWidget->currentWidget();
+    if (page == ui->saasPwdLoginPage)
+        ui->kelvra_login__SaasPwdLoginWt->setFocus();
+    else if (page == ui->saasVerificationCodeLoginPage)
+        ui->kelvra_login__SaasVerificationCodeLoginWt->setFocus();
+    else if (page == ui->localPwdLoginPage && ui->localUserWt->text().isEmpty())
+        ui->localUserWt->setFocus();
+    else if (page == ui->localPwdLoginPage)
+        ui->localPwdWt->setFocus();
 }
 
 void NormalLoginWt::tryCloudAutoLogin()
@@ -416,12 +437,8 @@ void NormalLoginWt::showEvent(QShowEvent *event)
 {
     refreshLinkRow();
     // The first-run page takes no focus, so that there is none to inherit from it.
-    if (!window()->focusWidget()) {
-        if (ui->saasUserTab->isChecked())
-            ui->kelvra_login__SaasPwdLoginWt->setFocus();
-        else
-            ui->localUserWt->setFocus();
-    }
+    if (!window()->focusWidget())
+        focusField();
     QWidget::showEvent(event);
 }
 

@@ -53,6 +53,8 @@ private:
     void connectPages();
     void connectHub();
 
+    /** Puts the cursor in the field of the page on show that wants input; the scan-code page has none. */
+    void focusField();
     void selectTab(bool cloud, QWidget *page);
     void slotUserNameEdited();
     void checkRememberedLogin();

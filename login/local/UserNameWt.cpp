@@ -20,6 +20,7 @@ UserNameWt::UserNameWt(QWidget *parent)
     ui->userName->setValidator(new QRegExpValidator(QRegExp(QStringLiteral("^\\S+$")), ui->userName));
     ui->userName->installEventFilter(this);
     setFocusProxy(ui->userName);
+    nameAfterPlaceholder(ui->userName);
     setState(FieldNormal);
 }
 
@@ -39,6 +40,7 @@ void UserNameWt::setPlaceholderText(const QString &text)
 {
     placeholderIsOwners = true;
     ui->userName->setPlaceholderText(text);
+    nameAfterPlaceholder(ui->userName);
 }
 
 void UserNameWt::setState(int state)

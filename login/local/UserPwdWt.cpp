@@ -1,5 +1,6 @@
 #include "login/local/UserPwdWt.h"
 
+#include "login/local/AccessiblePassword.h"
 #include "login/local/FieldStyle.h"
 #include "ui_UserPwdWt.h"
 
@@ -16,6 +17,7 @@ namespace {
 constexpr QChar placeholderChar(0x0001);
 constexpr int placeholderLength = 16;
 constexpr char passwordProperty[] = "pwd";
+constexpr int eyeKey = Qt::ALT | Qt::Key_F8; // Tab goes from field to field
 
 bool isClipboardKey(const QKeyEvent &event)
 {
@@ -40,9 +42,11 @@ UserPwdWt::UserPwdWt(QWidget *parent)
     : ZWidget(parent)
     , ui(std::make_unique<Ui::UserPwdWt>())
 {
+    AccessiblePassword::install();
     ui->setupUi(this);
     setAttribute(Qt::WA_StyledBackground);
     setFocusProxy(ui->pwd);
+    nameAfterPlaceholder(ui->pwd);
     ui->pwd->setContextMenuPolicy(Qt::NoContextMenu);
     ui->pwd->setAttribute(Qt::WA_InputMethodEnabled, false);
     ui->pwd->installEventFilter(this);
@@ -50,6 +54,9 @@ UserPwdWt::UserPwdWt(QWidget *parent)
     eye = new QAction(ui->pwd);
     eye->setObjectName(QStringLiteral("eye"));
     eye->setCheckable(true);
+    eye->setText(tr("Show password"));
+    eye->setShortcut(eyeKey);
+    eye->setShortcutContext(Qt::WidgetShortcut);
     ui->pwd->addAction(eye, QLineEdit::TrailingPosition);
 
     connect(eye, &QAction::triggered, this, &UserPwdWt::showPassword);
@@ -108,6 +115,7 @@ void UserPwdWt::setPlaceholderText(const QString &text)
 {
     placeholderIsOwners = true;
     ui->pwd->setPlaceholderText(text);
+    nameAfterPlaceholder(ui->pwd);
 }
 
 void UserPwdWt::setState(int state)
@@ -177,6 +185,7 @@ void UserPwdWt::retranslate()
     const FieldContent content(ui->pwd, placeholderIsOwners);
     ui->retranslateUi(this);
     content.restore();
+    eye->setText(tr("Show password"));
 }
 
 bool UserPwdWt::eventFilter(QObject *watched, QEvent *event)

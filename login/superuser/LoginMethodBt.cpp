@@ -35,6 +35,8 @@ void LoginMethodBt::setMethod(int newMethod)
         ui->title->setText(tr("Login Nimbra App User"));
         ui->detail->setText(tr("Login via phone number or scan QR code"));
     }
+    setAccessibleName(ui->title->text());
+    setAccessibleDescription(ui->detail->text());
 }
 
 void LoginMethodBt::changeEvent(QEvent *event)

@@ -30,6 +30,10 @@ LoginMethodSelWt::LoginMethodSelWt(QWidget *parent)
     ui->defaultUserBt->setMethod(LoginMethodBt::DefaultSuperUserMethod);
     ui->newUserBt->setMethod(LoginMethodBt::NewSuperUserMethod);
     ui->saasUserBt->setMethod(LoginMethodBt::CloudUserMethod);
+    // The buttons take no focus, and the page has nothing else to choose with.
+    ui->defaultUserBt->setShortcut(Qt::ALT | Qt::Key_1);
+    ui->newUserBt->setShortcut(Qt::ALT | Qt::Key_2);
+    ui->saasUserBt->setShortcut(Qt::ALT | Qt::Key_3);
     applyCloudRule();
     for (const LoginMethodBt *button : {ui->defaultUserBt, ui->newUserBt, ui->saasUserBt})
         connect(button, &LoginMethodBt::signalClicked, this, &LoginMethodSelWt::slotLoginMethodBtClicked);

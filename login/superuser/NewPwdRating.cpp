@@ -2,6 +2,7 @@
 
 #include "host/ZCommon/ToolsCollection.h"
 #include "host/ZCommon/ZLineEdit.h"
+#include "host/kelvra_base/CapsLockToolTipHandler.h"
 #include "host/kelvra_base/PwdStrengthWt.h"
 #include "login/frame/LoginSignals.h"
 #include "login/local/FieldStyle.h"
@@ -36,6 +37,8 @@ NewPwdRating::NewPwdRating(const Fields &pageFields)
 {
     connectTyping();
     connectFocus();
+    for (UserPwdWt *field : {fields.password, fields.confirmation})
+        new kelvra_base::CapsLockToolTipHandler(field, field->lineEdit(), field);
 }
 
 NewPwdRating::~NewPwdRating() = default;

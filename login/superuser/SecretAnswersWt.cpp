@@ -13,13 +13,15 @@ namespace kelvra_login {
 
 namespace {
 
-void showQuestion(QLineEdit *field, int id)
+void showQuestion(QLineEdit *field, QLineEdit *answer, int id)
 {
     const QString text = DictDef::_instance().securityQuestions().value(id);
     field->setText(text);
     field->setCursorPosition(0);
     // A long one is wider than the field.
     field->setToolTip(text);
+    field->setAccessibleName(text);
+    answer->setAccessibleDescription(text);
 }
 
 void showAnswer(QLineEdit *field, const QString &answer)
@@ -43,9 +45,9 @@ SecretAnswersWt::~SecretAnswersWt() = default;
 
 void SecretAnswersWt::showQuestions(const SuperUserInfo &info)
 {
-    showQuestion(ui->question_1, info.question1);
-    showQuestion(ui->question_2, info.question2);
-    showQuestion(ui->question_3, info.question3);
+    showQuestion(ui->question_1, ui->answer_1, info.question1);
+    showQuestion(ui->question_2, ui->answer_2, info.question2);
+    showQuestion(ui->question_3, ui->answer_3, info.question3);
 }
 
 void SecretAnswersWt::showAnswers(const SuperUserInfo &info)

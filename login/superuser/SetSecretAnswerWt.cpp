@@ -40,6 +40,8 @@ SetSecretAnswerWt::SetSecretAnswerWt(QWidget *parent)
         connect(boxes[i], QOverload<int>::of(&QComboBox::currentIndexChanged), fields[i], &QLineEdit::clear);
     }
     fillQuestions();
+    // The questions stand already.
+    ui->answer_1->setFocus();
     connect(ui->backBt, &QPushButton::clicked, this, &SetSecretAnswerWt::slotBackBtClicked);
     connect(ui->loginBt, &QPushButton::clicked, this, &SetSecretAnswerWt::slotLoginBtClicked);
 }
@@ -59,7 +61,11 @@ std::array<QLineEdit *, 3> SetSecretAnswerWt::answerFields() const
 void SetSecretAnswerWt::fillQuestions()
 {
     const QMap<int, QString> questions = DictDef::_instance().securityQuestions();
+    int number = 0;
     for (ComboBox *box : questionBoxes()) {
+        box->setAccessibleName(tr("Question %1").arg(++number));
+        // On some systems a combo box gives its current text for its name.
+        box->setAccessibleDescription(box->accessibleName());
         box->clear();
         for (auto question = questions.constBegin(); question != questions.constEnd(); ++question) {
             box->addItem(question.value(), question.key());
