@@ -1,5 +1,6 @@
 // Whether every text is translated and fits where it is shown. For one language: tst_languages texts:de (the code is
 // that of the files in client/translations, "en" for English). What is wrong stands in the warnings, line by line.
+// With a folder named in KELVRA_TEST_PICTURES, a picture of every screen stays there.
 #include "client/kelvra_base/AlertBox.h"
 #include "client/kelvra_data/Store.h"
 #include "client/kelvra_saas/SaasSetup.h"
@@ -166,13 +167,31 @@ private:
     {
         window.show();
         measure(window);
+        keep(window);
         for (auto *stack : window.findChildren<QStackedWidget *>()) {
             const int shown = stack->currentIndex();
             for (int page = 0; page <= stack->count(); ++page) {
                 stack->setCurrentIndex(page < stack->count() ? page : shown);
                 measure(window);
+                keep(window);
             }
         }
+    }
+
+    /** Only the first look of each screen: the later ones have other states' texts in place of its own. */
+    void keep(QWidget &window)
+    {
+        if (pictures.isEmpty())
+            return;
+        QString name = window.objectName();
+        for (const auto *stack : window.findChildren<QStackedWidget *>()) {
+            if (stack->isVisible() && stack->currentWidget()) // the innermost one comes last
+                name = stack->currentWidget()->objectName();
+        }
+        for (auto *tab : window.findChildren<QPushButton *>(QRegularExpression("UserTab$")))
+            tab->setChecked(name.startsWith("saas") == tab->objectName().startsWith("saas"));
+        const QString path = QDir(pictures).filePath(code + '-' + name.section("__", -1) + ".png");
+        QVERIFY2(QFile::exists(path) || window.grab().save(path), qPrintable(path));
     }
 
     /** Lets the parts of that name say each of `sources` in turn, as other states of `window` do. */
@@ -370,7 +389,7 @@ private:
     void clientDialogs()
     {
         for (const auto title : {DictDef::OperationFailedTitle, DictDef::WarningTitle, DictDef::InformationTitle}) {
-            kelvra_base::AlertBox box(nullptr, {}, DictDef::_instance().alertTitle(title),
+            kelvra_base::AlertBox box(nullptr, kelvra_base::AlertBox::Error, DictDef::_instance().alertTitle(title),
                                       UserAdmin::sentence(UserAdmin::NameNotTypable),
                                       kelvra_base::OkButton | kelvra_base::CancelButton);
             look(box);
@@ -429,6 +448,7 @@ private:
     Untranslated untranslated;
     CloudSide cloud;
     QString code; // of the language in force
+    const QString pictures = qEnvironmentVariable("KELVRA_TEST_PICTURES");
     QSet<QString> faults;
 };
 

@@ -14,7 +14,7 @@ import subprocess, threading, time
 import pyatspi
 
 TYPED = "Unheard-of-57"
-SHOWN = {"push button", "check box", "combo box", "text", "password text", "link", "canvas", "toggle button", "label"}
+SHOWN = {"push button", "page tab", "check box", "combo box", "text", "password text", "link", "canvas", "label"}
 told = []  # every text that an event or a node has given away
 
 
@@ -38,6 +38,7 @@ def nodes(node):
 
 def walk(title):
     print(f"\n{title}\n")
+    client().clear_cache()
     for node in nodes(client()):
         role, states = node.getRoleName(), node.getState()
         told.extend([node.name, node.description])
@@ -69,6 +70,8 @@ def type_password():
 
 client()
 time.sleep(2)
+window = subprocess.check_output(["xdotool", "search", "--onlyvisible", "--class", "kelvra_client"], text=True).split()[0]
+subprocess.run(["xdotool", "windowfocus", window], check=True)  # there is no window manager to do it
 walk("First run")
 for name, screen in (("Login Nimbra App User", "Cloud login, by password"), ("PIN", "Cloud login, by PIN"),
                      ("QR Code", "Cloud login, by QR code"), ("Local User", "Local login"),

@@ -55,6 +55,10 @@ render() {
         # Seen for seconds and full of shapes: coarser shades do not show in it.
         render_png 1.5 "$svg" "$images/$name.png" 128
         ;;
+    gesture_*)
+        # Twice the dot's size, and scaled down to what a screen needs by the dot itself.
+        render_png 1 "$svg" "$images/$name.png"
+        ;;
     img_bg_*)
         render_png 1.5 "$svg" "$images/$name.png"
         ;;

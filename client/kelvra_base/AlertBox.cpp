@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QHBoxLayout>
+#include <QIcon>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPointer>
@@ -119,7 +120,7 @@ void AlertBox::setUpLayout(Icon icon, const QString &text)
     auto *picture = new QLabel(this);
     picture->setFixedSize(iconSize, iconSize);
     picture->setScaledContents(true); // smooth at a broken scale factor
-    picture->setPixmap(QPixmap(iconPath(icon)));
+    picture->setPixmap(QIcon(iconPath(icon)).pixmap(iconSize, iconSize));
     auto *label = new QLabel(this);
     label->setObjectName(QStringLiteral("text"));
     label->setTextFormat(Qt::PlainText);

@@ -21,6 +21,7 @@ const QColor dimColor(0x85, 0x8f, 0xa2);
 const QColor disabledColor(0x59, 0x64, 0x78);
 const QColor disabledFillColor(0x28, 0x35, 0x4d);
 const QColor accentColor(0x2c, 0x7d, 0xce);
+const QColor selectionColor(0x29, 0x78, 0xc7); // the accent, darker: white is legible on it
 const QColor tipColor(0x1b, 0x26, 0x40);
 
 QFont createFont()
@@ -44,7 +45,7 @@ QPalette createPalette()
     palette.setColor(QPalette::PlaceholderText, dimColor);
     palette.setColor(QPalette::ButtonText, textColor);
     palette.setColor(QPalette::BrightText, Qt::white);
-    palette.setColor(QPalette::Highlight, accentColor);
+    palette.setColor(QPalette::Highlight, selectionColor);
     palette.setColor(QPalette::HighlightedText, Qt::white);
     palette.setColor(QPalette::Link, accentColor);
     palette.setColor(QPalette::LinkVisited, accentColor);

@@ -99,7 +99,7 @@ QVector<TourStep> securityQuestions()
     return {
         step("look at the questions", look, questions, is(questionTexts), "security-questions"),
         step("click \"Login\"", click("loginBt"), tip, is(emptyAnswer), "empty-answer"),
-        step("click the first question", click("question_1"), list,
+        step("click the first question", makeRoom("question_1") + click("question_1"), list,
              is("rows: 12, the first: Who was your favourite teacher?"), "question-list"),
         step("choose the second one with the keys", press(Qt::Key_Down) + press(Qt::Key_Return), questions,
              is(chosenTexts)),

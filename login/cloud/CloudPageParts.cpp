@@ -2,7 +2,9 @@
 
 #include "host/kelvra_saas/LoginWorker.h"
 #include "host/kelvra_saas/SaasErrorMsg.h"
+#include "host/kelvra_worker/SystemWorker.h"
 #include "login/frame/LoginSignals.h"
+#include "login/frame/LoginWorker.h"
 #include "login/local/UserNameWt.h"
 
 #include <QCoreApplication>
@@ -83,6 +85,12 @@ void setLoggingIn(QPushButton *loginBt, bool loggingIn)
 bool isLoggingIn(const QPushButton *loginBt)
 {
     return loginBt->property(loggingInProperty).toBool();
+}
+
+void finishLogin(const QWidget *page, const QString &account, bool autoLogin)
+{
+    if (page->window()->isVisible() && !kelvra_worker::SystemWorker::_instance().isLoginSuccess())
+        LoginWorker::_instance().saasLoginSuccess(account, autoLogin);
 }
 
 QString errorText(const kelvra_saas::Response &response)

@@ -50,6 +50,12 @@ void showTip(QWidget *field, const QString &text);
 void setLoggingIn(QPushButton *loginBt, bool loggingIn);
 bool isLoggingIn(const QPushButton *loginBt);
 
+/**
+ * Ends a login that the cloud has granted. Its answer may come late: nothing happens once the user has closed the
+ * window of `page`, and whoever has logged in meanwhile stays.
+ */
+void finishLogin(const QWidget *page, const QString &account, bool autoLogin);
+
 /** The text of the cloud for a call that failed. */
 QString errorText(const kelvra_saas::Response &response);
 

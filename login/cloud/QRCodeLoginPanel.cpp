@@ -150,10 +150,10 @@ void QRCodeLoginPanel::codeAnswered(const Response &response, const LoginQRCodeI
     if (isVisible() && !window()->isMinimized()) // else the next show starts it
         statusTimer->start(statusIntervalMs);
     setTitle(scanTitle, tr("Nimbra App Code scanning login"));
-    // All at once: an image source may well contain a percent sign before a digit.
-    ui->QRCode->setText(
-        QStringLiteral("<img src=\"%1\" width=\"%2\" heigh=\"%3\" />")
-            .arg(info.image, QString::number(ui->QRCode->width()), QString::number(ui->QRCode->height())));
+    // All at once: an image source may well contain a percent sign before a digit. None ends its attribute.
+    ui->QRCode->setText(QStringLiteral("<img src=\"%1\" width=\"%2\" heigh=\"%3\" />")
+                            .arg(QString(info.image).replace(QLatin1Char('"'), QLatin1String("&quot;")),
+                                 QString::number(ui->QRCode->width()), QString::number(ui->QRCode->height())));
     // Never cancelled: it ends whatever code is then on show.
     QTimer::singleShot(std::chrono::seconds(info.validitySeconds), this,
                        [this] { QRCodeInvalid(invalidTitle, tr("QR Code Invalid")); });

@@ -82,7 +82,7 @@ void SaasPwdLoginWt::loginAnswered(const QString &account, const Response &respo
     const QPointer<SaasPwdLoginWt> self(this);
     switch (response.code) {
     case kelvra_saas::successCode:
-        LoginWorker::_instance().saasLoginSuccess(account, ui->autoLogin->isChecked());
+        finishLogin(this, account, ui->autoLogin->isChecked());
         return;
     case insecureTerminalCode:
         emit LoginSignals::_instance().signalSaasLoginEvent(SaasVerificationCodeLogin, {account});

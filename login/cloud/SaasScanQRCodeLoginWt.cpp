@@ -5,7 +5,6 @@
 #include "login/frame/Alerts.h"
 #include "login/frame/CloudAnswer.h"
 #include "login/frame/LoginSignals.h"
-#include "login/frame/LoginWorker.h"
 #include "ui_SaasScanQRCodeLoginWt.h"
 
 #include <QEvent>
@@ -50,7 +49,7 @@ void SaasScanQRCodeLoginWt::queryAccount()
 void SaasScanQRCodeLoginWt::accountAnswered(const Response &response, const QString &account)
 {
     if (response.code == kelvra_saas::successCode) {
-        LoginWorker::_instance().saasLoginSuccess(account, ui->autoLogin->isChecked());
+        finishLogin(this, account, ui->autoLogin->isChecked());
         return;
     }
     const QPointer<SaasScanQRCodeLoginWt> self(this);

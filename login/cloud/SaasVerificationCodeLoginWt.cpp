@@ -120,7 +120,7 @@ void SaasVerificationCodeLoginWt::loginAnswered(const QString &account, const Re
     const QPointer<SaasVerificationCodeLoginWt> self(this);
     switch (response.code) {
     case kelvra_saas::successCode:
-        LoginWorker::_instance().saasLoginSuccess(account, ui->autoLogin->isChecked());
+        finishLogin(this, account, ui->autoLogin->isChecked());
         return;
     case nearLockCode:
         LoginWorker::_instance().showLockAlert(info);

@@ -3,6 +3,7 @@
 #include "login/frame/LoginWorker.h"
 #include "login/frame/Screens.h"
 #include "login/local/AccessiblePassword.h"
+#include "login/local/AccessibleToggle.h"
 
 #include <QCoreApplication>
 
@@ -25,8 +26,9 @@ LoginInit::LoginInit(QObject *parent)
     : ModuleInitialization(parent)
 {
     enterScreens();
-    // At once, for the host's own password fields as well.
+    // At once, for the host's own password fields and check boxes as well.
     AccessiblePassword::install();
+    AccessibleToggle::install();
     loadStyleSheet(styleSheetPath);
 }
 

@@ -63,7 +63,6 @@ void LoginWorker::login(UserType type, const QStringList &params, bool allowed)
 {
     autoLoginAllowed = allowed;
     auto *dialog = new LoginDlg(nullptr);
-    newestDialog = dialog;
 
     if (UserData::_instance().isFirstLogin()) {
         emitLoginEvent(LoginMethodSel);
@@ -108,15 +107,11 @@ void LoginWorker::tryHandedOverLogin(UserType type, const QStringList &params)
         return;
 
     if (type == kelvra_worker::CloudUser) {
-        QTimer::singleShot(autoLoginDelayMs, this, [this, params, dialog = newestDialog] {
-            if (isAwaited(dialog))
-                tryCloudAutoLogin(params.first(), params.last());
-        });
+        QTimer::singleShot(autoLoginDelayMs, handedOver.get(),
+                           [this, params] { tryCloudAutoLogin(params.first(), params.last()); });
     } else if (type == kelvra_worker::LocalUser && verifyPassword(params.first(), params.last())) {
-        QTimer::singleShot(autoLoginDelayMs, this, [this, params, dialog = newestDialog] {
-            if (isAwaited(dialog))
-                finishHandedOverLogin(params.first(), params.last());
-        });
+        QTimer::singleShot(autoLoginDelayMs, handedOver.get(),
+                           [this, params] { finishHandedOverLogin(params.first(), params.last()); });
     }
 }
 
@@ -125,11 +120,11 @@ void LoginWorker::tryCloudAutoLogin(const QString &account, const QString &passw
     const QString requestId = newRequestId();
     kelvra_saas::LoginWorker::_instance().tryAutoLogin(
         requestId, account, password,
-        answerTo(requestId, this,
-                 [this, dialog = newestDialog](const kelvra_saas::Response &response, const QString &answeredAccount) {
+        answerTo(requestId, handedOver.get(),
+                 [this](const kelvra_saas::Response &response, const QString &answeredAccount) {
                      if (response.code != kelvra_saas::successCode)
                          kelvra_saas::LoginWorker::_instance().cancelAccountAutoLogin(answeredAccount);
-                     else if (isAwaited(dialog))
+                     else if (!SystemWorker::_instance().isLoginSuccess()) // whoever has logged in by hand stays
                          saasLoginSuccess(answeredAccount, true);
                  }));
 }
@@ -137,16 +132,13 @@ void LoginWorker::tryCloudAutoLogin(const QString &account, const QString &passw
 void LoginWorker::finishHandedOverLogin(const QString &userName, const QString &pwd)
 {
     // The shell hands over a login that is already on record: neither log, record, environment nor lock change.
+    if (SystemWorker::_instance().isLoginSuccess())
+        return;
     auto &userData = UserData::_instance();
     const UserInfo userInfo = userData.getUserInfo(userName);
     SystemWorker::_instance().setCurUserInfo(kelvra_worker::LocalUser, userName, pwd, userInfo.attribute,
                                              userData.isUserAutoLogin(userName));
     announceSuccess(userName);
-}
-
-bool LoginWorker::isAwaited(const LoginDlg *dialog) const
-{
-    return dialog && dialog == newestDialog && dialog->isVisible() && !SystemWorker::_instance().isLoginSuccess();
 }
 
 void LoginWorker::announceSuccess(const QString &userName)
@@ -161,8 +153,8 @@ void LoginWorker::announceSuccess(const QString &userName)
 void LoginWorker::switchUser()
 {
     autoLoginAllowed = false;
+    handedOver = std::make_unique<QObject>(); // what is still to come of a handed-over login does not
     auto *dialog = new LoginDlg(nullptr);
-    newestDialog = dialog;
     emitLoginEvent(NormalLogin);
     showDialog(dialog);
 }

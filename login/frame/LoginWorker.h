@@ -6,8 +6,9 @@
 #include "host/kelvra_worker/UserType.h"
 
 #include <QObject>
-#include <QPointer>
 #include <QStringList>
+
+#include <memory>
 
 namespace kelvra_login {
 class LoginWorker;
@@ -16,8 +17,6 @@ class LoginWorker;
 ZSINGLETON_DECLARE(, kelvra_login::LoginWorker)
 
 namespace kelvra_login {
-
-class LoginDlg;
 
 /** Failed local verifications, of passwords and gestures together, that lock local login. */
 constexpr int maxFailures = 5;
@@ -99,15 +98,13 @@ private:
     void tryHandedOverLogin(kelvra_worker::UserType type, const QStringList &params);
     void tryCloudAutoLogin(const QString &account, const QString &password);
     void finishHandedOverLogin(const QString &userName, const QString &pwd);
-    /** Whether a login handed over with `dialog` may still be completed: nobody is in, the user has not left it. */
-    bool isAwaited(const LoginDlg *dialog) const;
     void announceSuccess(const QString &userName);
 
     int lockSeconds = -1;
     int lockState = -1;
     int failedCount = 0;
     bool autoLoginAllowed = true;
-    QPointer<LoginDlg> newestDialog;
+    std::unique_ptr<QObject> handedOver = std::make_unique<QObject>(); ///< lives as long as logins handed over count
 };
 
 } // namespace kelvra_login

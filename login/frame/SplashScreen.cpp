@@ -7,6 +7,7 @@
 
 #include <QEvent>
 #include <QFileInfo>
+#include <QIcon>
 #include <QPainter>
 
 using kelvra_contact::SystemMsg;
@@ -26,6 +27,7 @@ constexpr int trackRadius = 3;
 constexpr int barRadius = 4;
 constexpr int lightLeft = 18; // from the bar's head to the left edge of the glow
 constexpr double lightTop = 12.5;
+constexpr QSize lightSize(36, 33);
 
 QPixmap loadBackground()
 {
@@ -92,7 +94,7 @@ void SplashScreen::paintEvent(QPaintEvent *event)
 
         if (progress > 0)
             painter.drawPixmap(x - lightLeft, static_cast<int>(top - lightTop),
-                               QPixmap(QStringLiteral(":/login_images/images/img_light.png")));
+                               QIcon(QStringLiteral(":/login_images/images/img_light.png")).pixmap(lightSize));
     }
     ZWidget::paintEvent(event);
 }

@@ -101,7 +101,8 @@ void GestureLoginWt::showFailures(int count)
 void GestureLoginWt::loginSoon(const QString &userName, bool automatic)
 {
     QTimer::singleShot(autoLoginDelayMs, this, [this, userName, automatic] {
-        if (!quitting && !SystemWorker::_instance().isLoginSuccess())
+        // The last failure allowed may have come meanwhile.
+        if (!quitting && !SystemWorker::_instance().isLoginSuccess() && !LoginWorker::_instance().isLocked())
             login(userName, automatic);
     });
 }

@@ -1,5 +1,7 @@
 #include "login/local/FieldStyle.h"
 
+#include <QIcon>
+#include <QLabel>
 #include <QLineEdit>
 #include <QToolTip>
 
@@ -9,6 +11,11 @@ void applyStyle(QWidget *widget, const QString &styleSheet)
 {
     if (widget->styleSheet() != styleSheet)
         widget->setStyleSheet(styleSheet);
+}
+
+void showIcon(QLabel *label, const QString &fileName)
+{
+    label->setPixmap(QIcon(fileName).pixmap(label->maximumSize()));
 }
 
 void showFieldError(QLineEdit *lineEdit, const QString &text)

@@ -4,6 +4,7 @@
 
 #include <QString>
 
+class QLabel;
 class QLineEdit;
 class QWidget;
 
@@ -28,6 +29,9 @@ inline const QString editDisabledStyle = ZCOMMON::styleLineEditDisabled;
 
 /** Sets a style sheet unless it is in force: setting one again would polish the whole field anew. */
 void applyStyle(QWidget *widget, const QString &styleSheet);
+
+/** Shows an icon in a label of fixed size, in its form for dense screens where the screen is one. */
+void showIcon(QLabel *label, const QString &fileName);
 
 /** Shows `text` as a tool tip at the line edit's top left corner. */
 void showFieldError(QLineEdit *lineEdit, const QString &text);

@@ -302,7 +302,8 @@ void NormalLoginWt::slotQuitSystem()
     quitting = true;
     nameTimer->stop();
     auto &worker = LoginWorker::_instance();
-    if (worker.isLocked())
+    // A form that counts nothing down must not end the lock of another one.
+    if (locked && worker.isLocked())
         worker.setLockSeconds(remainingLockSeconds());
 }
 

@@ -4,6 +4,7 @@
 #include "ui_PwdTipWt.h"
 
 #include <QEvent>
+#include <QIcon>
 #include <QPainter>
 
 namespace kelvra_login {
@@ -54,7 +55,7 @@ void PwdTipWt::paintEvent(QPaintEvent *event)
         QPainter painter(this);
         painter.setPen(Qt::NoPen);
         painter.setRenderHint(QPainter::SmoothPixmapTransform);
-        painter.drawPixmap(rect(), QPixmap(QStringLiteral(":/login_images/images/pwd_tip.png")));
+        painter.drawPixmap(rect(), QIcon(QStringLiteral(":/login_images/images/pwd_tip.png")).pixmap(size()));
     }
     QWidget::paintEvent(event);
 }

@@ -53,8 +53,8 @@ void UserNameWt::setState(int state)
     const bool normal = state == FieldNormal;
     applyStyle(this, normal ? frameNormalStyle : frameHighlightedStyle);
     applyStyle(ui->userName, state == FieldFocused ? editBrightStyle : editDimStyle);
-    ui->userImage->setPixmap(QPixmap(normal ? QStringLiteral(":/login_images/images/user_n.png")
-                                            : QStringLiteral(":/login_images/images/user_h.png")));
+    showIcon(ui->userImage, normal ? QStringLiteral(":/login_images/images/user_n.png")
+                                   : QStringLiteral(":/login_images/images/user_h.png"));
 }
 
 void UserNameWt::setFieldDisabled()
@@ -64,7 +64,7 @@ void UserNameWt::setFieldDisabled()
     setEnabled(false);
     applyStyle(this, frameDisabledStyle);
     applyStyle(ui->userName, editDisabledStyle);
-    ui->userImage->setPixmap(QPixmap(QStringLiteral(":/login_images/images/user_n.png")));
+    showIcon(ui->userImage, QStringLiteral(":/login_images/images/user_n.png"));
 }
 
 void UserNameWt::showError(const QString &text)

@@ -1,6 +1,7 @@
 #include "login/local/UserPwdWt.h"
 
 #include "login/local/AccessiblePassword.h"
+#include "login/local/AccessibleToggle.h"
 #include "login/local/FieldStyle.h"
 #include "ui_UserPwdWt.h"
 
@@ -43,6 +44,7 @@ UserPwdWt::UserPwdWt(QWidget *parent)
     , ui(std::make_unique<Ui::UserPwdWt>())
 {
     AccessiblePassword::install();
+    AccessibleToggle::install();
     ui->setupUi(this);
     setAttribute(Qt::WA_StyledBackground);
     setFocusProxy(ui->pwd);
@@ -128,8 +130,8 @@ void UserPwdWt::setState(int state)
     const bool normal = state == FieldNormal;
     applyStyle(this, normal ? frameNormalStyle : frameHighlightedStyle);
     applyStyle(ui->pwd, normal ? editDimStyle : editBrightStyle);
-    ui->pwdImage->setPixmap(QPixmap(normal ? QStringLiteral(":/login_images/images/password_n.png")
-                                           : QStringLiteral(":/login_images/images/password_h.png")));
+    showIcon(ui->pwdImage, normal ? QStringLiteral(":/login_images/images/password_n.png")
+                                  : QStringLiteral(":/login_images/images/password_h.png"));
     updateEyeIcon(!normal);
 }
 
