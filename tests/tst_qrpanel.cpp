@@ -1,6 +1,8 @@
 #include "TestTools.h"
 #include "login/cloud/QRCodeLoginPanel.h"
 
+#include <QTextDocument>
+
 #include <array>
 
 using namespace kelvra_login;
@@ -48,6 +50,17 @@ private slots:
     }
 
     void cleanup() { delete window; }
+
+    void addressBringsNoTextIn()
+    {
+        panel->refreshQRCode();
+        const auto call = host.qrCodeRequests.last();
+        call.answer({call.requestId, kelvra_saas::successCode, 0, QString()},
+                    kelvra_saas::LoginQRCodeInfo{"code", "a\"/>Call us<i b=\"", 60});
+        QTextDocument shown;
+        shown.setHtml(text("QRCode"));
+        QCOMPARE(shown.toPlainText(), QString(QChar::ObjectReplacementCharacter));
+    }
 
     void firstShowFetchesACode()
     {
