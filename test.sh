@@ -10,7 +10,7 @@ preset=${PRESET:-dev}
 install_missing $build_packages clang-format zbar-tools
 
 say "Checking the format"
-find host login client tests -name '*.h' -o -name '*.cpp' | xargs clang-format --dry-run --Werror
+find host login client bench tests -name '*.h' -o -name '*.cpp' | xargs clang-format --dry-run --Werror
 
 build "$preset"
 

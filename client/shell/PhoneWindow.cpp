@@ -266,6 +266,11 @@ void PhoneWindow::showTimes()
     const int lockSeconds = cloud.lockedSeconds(account().phone);
     ui->lockRow->setVisible(lockSeconds > 0);
     ui->accountLock->setText(tr("Locked, %1 left").arg(clockText(lockSeconds)));
+    // Whatever begins to run is announced, so that a phone on which nothing runs need not wake the client.
+    if (!isVisible() || (smsSeconds <= 0 && !open && lockSeconds <= 0))
+        clock.stop();
+    else if (!clock.isActive())
+        clock.start();
 }
 
 void PhoneWindow::reloadAccounts()
@@ -333,7 +338,6 @@ void PhoneWindow::changeEvent(QEvent *event)
 void PhoneWindow::showEvent(QShowEvent *event)
 {
     showTimes();
-    clock.start();
     QWidget::showEvent(event);
 }
 

@@ -72,7 +72,7 @@ private:
     kelvra_saas::CloudSimulation &cloud;
     const std::unique_ptr<Ui::PhoneWindow> ui;
     ZCOMMON::FramelessBehaviour frame;
-    QTimer clock; ///< brings the times that are left up to date while the phone is seen
+    QTimer clock; ///< brings the times that are left up to date while the phone is seen and one of them runs
 };
 
 } // namespace kelvra_client

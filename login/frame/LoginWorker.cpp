@@ -2,6 +2,7 @@
 
 #include "host/ZCommon/ZFileDialog.h"
 #include "host/kelvra_base/BaseTools.h"
+#include "host/kelvra_contact/SystemMsg.h"
 #include "host/kelvra_data/UserData.h"
 #include "host/kelvra_saas/LoginWorker.h"
 #include "host/kelvra_worker/SystemWorker.h"
@@ -19,6 +20,7 @@
 #include <QTimer>
 
 using kelvra_base::BaseTools;
+using kelvra_contact::SystemMsg;
 using kelvra_data::SuperUserInfo;
 using kelvra_data::UserData;
 using kelvra_data::UserInfo;
@@ -55,7 +57,12 @@ void emitLoginEvent(LoginEvent event, const QStringList &params = {})
 
 } // namespace
 
-LoginWorker::LoginWorker() = default;
+LoginWorker::LoginWorker()
+{
+    // A host that takes its time to quit shall not be logged in meanwhile.
+    connect(&SystemMsg::_instance(), &SystemMsg::signalPrepareQuitSystem, this,
+            [this] { handedOver = std::make_unique<QObject>(); });
+}
 
 LoginWorker::~LoginWorker() = default;
 

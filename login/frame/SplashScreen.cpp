@@ -9,6 +9,8 @@
 #include <QFileInfo>
 #include <QIcon>
 #include <QPainter>
+#include <QPixmap>
+#include <QTimer>
 
 using kelvra_contact::SystemMsg;
 using kelvra_worker::Customization;
@@ -20,6 +22,7 @@ namespace kelvra_login {
 namespace {
 
 constexpr int fullProgress = 100; // percent
+constexpr int readDelayMs = 200;  // from when the dialog is made to when it has surely been painted
 constexpr int barMargin = 40;     // left and right of the track
 constexpr int barBottom = 77;     // from the track's top edge to the screen's bottom
 constexpr int barHeight = 7;
@@ -29,12 +32,12 @@ constexpr int lightLeft = 18; // from the bar's head to the left edge of the glo
 constexpr double lightTop = 12.5;
 constexpr QSize lightSize(36, 33);
 
-QPixmap loadBackground()
+QString backgroundFile()
 {
     const CustomizeInfo &customization = Customization::_instance().getCustomizeInfo();
     if (customization.customLoadingImageEnabled && QFileInfo(customization.loadingImagePath).isFile())
-        return QPixmap(customization.loadingImagePath);
-    return QPixmap(QStringLiteral(":/login_images/images/img_bg_loading.png"));
+        return customization.loadingImagePath;
+    return QStringLiteral(":/login_images/images/img_bg_loading.png");
 }
 
 } // namespace
@@ -42,10 +45,13 @@ QPixmap loadBackground()
 SplashScreen::SplashScreen(QWidget *parent)
     : ZWidget(parent)
     , ui(std::make_unique<Ui::SplashScreen>())
-    , background(loadBackground())
+    , background(backgroundFile())
     , smoothProgress(new SmoothProgress(this))
 {
     ui->setupUi(this);
+    // Reading a picture takes its time: not before the login is on the screen, nor when somebody waits for it to go.
+    QTimer::singleShot(readDelayMs, this,
+                       [this] { background.prepare((QSizeF(size()) * devicePixelRatioF()).toSize()); });
     connect(smoothProgress, &SmoothProgress::signalProgress, this, &SplashScreen::slotSmoothProgress);
     connect(&SystemMsg::_instance(), &SystemMsg::signalSystemInitProgress, this, &SplashScreen::slotSystemInitProgress);
 }
@@ -77,7 +83,7 @@ void SplashScreen::paintEvent(QPaintEvent *event)
         QPainter painter(this);
         painter.setPen(Qt::NoPen);
         painter.setRenderHint(QPainter::SmoothPixmapTransform);
-        backdrop.paint(&painter, rect(), background);
+        background.paint(&painter, rect());
 
         painter.setRenderHint(QPainter::Antialiasing);
         const int top = height() - barBottom;

@@ -3,8 +3,6 @@
 #include "host/ZCommon/ZWidget.h"
 #include "login/local/Backdrop.h"
 
-#include <QPixmap>
-
 #include <memory>
 
 namespace ZCOMMON {
@@ -45,8 +43,7 @@ private:
 
     const std::unique_ptr<Ui::SplashScreen> ui;
     int progress = 0;
-    QPixmap background;
-    Backdrop backdrop;
+    Backdrop background;
     ZCOMMON::SmoothProgress *smoothProgress = nullptr;
 };
 

@@ -101,8 +101,10 @@ void GestureLoginWt::showFailures(int count)
 void GestureLoginWt::loginSoon(const QString &userName, bool automatic)
 {
     QTimer::singleShot(autoLoginDelayMs, this, [this, userName, automatic] {
-        // The last failure allowed may have come meanwhile.
-        if (!quitting && !SystemWorker::_instance().isLoginSuccess() && !LoginWorker::_instance().isLocked())
+        // The last failure allowed may have come meanwhile, or a switch of user.
+        auto &worker = LoginWorker::_instance();
+        const bool wanted = !worker.isLocked() && (!automatic || worker.isAutoLoginAllowed());
+        if (wanted && !quitting && !SystemWorker::_instance().isLoginSuccess())
             login(userName, automatic);
     });
 }

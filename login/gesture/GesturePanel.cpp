@@ -103,7 +103,7 @@ void GesturePanel::mouseMoveEvent(QMouseEvent *event)
     GesturePoint *const point = selected.isEmpty() ? pointUnder(event->pos()) : pointPassed(event->pos());
     if (point && point->getState() != GesturePoint::SelectedState)
         select(point);
-    updateTrail();
+    updateTrail(event->pos());
 }
 
 void GesturePanel::mouseReleaseEvent(QMouseEvent *event)
@@ -176,11 +176,12 @@ void GesturePanel::select(GesturePoint *point)
     }
 }
 
-void GesturePanel::updateTrail()
+// Where the pointer was at the move will do: asking the window system takes longer than the painting.
+void GesturePanel::updateTrail(const QPoint &pointer)
 {
     if (selected.isEmpty())
         return;
-    overlay->update(trailArea + lineArea(path.currentPosition().toPoint(), cursorPoint(), rect()));
+    overlay->update(trailArea + lineArea(path.currentPosition().toPoint(), pointer, rect()));
     trailArea = QRegion();
 }
 

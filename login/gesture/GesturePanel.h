@@ -53,7 +53,7 @@ private:
     QPoint cursorPoint() const;
     QString gesture() const;
     void select(GesturePoint *point);
-    void updateTrail();
+    void updateTrail(const QPoint &pointer);
     void paintLines();
     void reset();
 

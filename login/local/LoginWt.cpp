@@ -27,6 +27,7 @@ constexpr int languageBoxTop = 8;
 LoginWt::LoginWt(QWidget *parent)
     : ZWidget(parent)
     , ui(std::make_unique<Ui::LoginWt>())
+    , backdrop(QStringLiteral(":/login_images/images/img_bg_login.png"))
 {
     ui->setupUi(this);
     createLanguageBox();
@@ -139,7 +140,7 @@ void LoginWt::paintEvent(QPaintEvent *event)
     {
         QPainter painter(this);
         painter.setPen(Qt::NoPen);
-        backdrop.paint(&painter, rect(), QPixmap(QStringLiteral(":/login_images/images/img_bg_login.png")));
+        backdrop.paint(&painter, rect());
     }
     ZWidget::paintEvent(event);
 }
