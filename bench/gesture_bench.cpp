@@ -1,9 +1,11 @@
 #include "login/gesture/GesturePanel.h"
 
+#include <QDeadlineTimer>
 #include <QElapsedTimer>
 #include <QPainter>
 #include <QtTest>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 
@@ -45,7 +47,7 @@ private:
     QPolygon points;
 };
 
-/** What a move of the mouse costs on a pad, from the window system's event to the painted picture. */
+/** What a move of the mouse costs on a pad, from the event to the painted picture. */
 class Measurement : public QObject
 {
 public:
@@ -57,26 +59,36 @@ public:
         window.setFixedSize(padSize);
         Pad pad(&window);
         pad.resize(padSize);
+        // The window system knows of no button that is held.
+        pad.setMouseTracking(true);
+        for (auto *child : pad.template findChildren<QWidget *>())
+            child->setMouseTracking(true);
         window.show();
         if (!QTest::qWaitForWindowExposed(&window))
             std::exit(1);
-        pad.installEventFilter(this);
+        pad.installEventFilter(this); // for its painting
+        window.windowHandle()->installEventFilter(this);
         moveTo(window, stroke.first().toPoint());
         QTest::mousePress(window.windowHandle(), Qt::LeftButton, {}, stroke.first().toPoint());
         for (int leg = 1; leg < stroke.size(); ++leg)
             draw(window, QLineF(stroke.at(leg - 1), stroke.at(leg)));
     }
 
-    void print(const char *name) const
+    void print(const char *name)
     {
-        std::printf("gesture_%s_us %.2f\ngesture_%s_pixels %.0f\n", name, double(nanoseconds) / 1000 / moves, name,
-                    double(pixels) / moves);
+        const auto middle = nanoseconds.begin() + nanoseconds.size() / 2;
+        std::nth_element(nanoseconds.begin(), middle, nanoseconds.end());
+        std::printf("gesture_%s_us %.2f\ngesture_%s_pixels %d\n", name, double(*middle) / 1000, name,
+                    pixels / nanoseconds.size());
     }
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override
     {
-        moved = moved || event->type() == QEvent::MouseMove;
+        if (event->type() == QEvent::MouseMove && watched->isWindowType() && !moved) {
+            moved = true;
+            timer.start();
+        }
         if (event->type() == QEvent::Paint)
             for (const QRect &rect : static_cast<QPaintEvent *>(event)->region())
                 pixels += rect.width() * rect.height();
@@ -84,38 +96,32 @@ protected:
     }
 
 private:
-    /** Nanoseconds from when the move waits to be handled until it is painted. */
-    qint64 moveTo(const QWidget &window, const QPoint &place)
+    /** From when the move has come until it is painted; the pointer's way to the program is not the pad's. */
+    void moveTo(const QWidget &window, const QPoint &place)
     {
         moved = false;
-        const QPoint global = window.mapToGlobal(place);
-        QCursor::setPos(global);
-        // The answer comes after the event: the pointer's way through the window system is not the pad's.
-        while (QCursor::pos() != global) {
-        }
-        QElapsedTimer timer;
-        timer.start();
-        while (!moved && !timer.hasExpired(giveUpMs))
+        QCursor::setPos(window.mapToGlobal(place));
+        const QDeadlineTimer deadline(giveUpMs);
+        while (!moved && !deadline.hasExpired())
             QCoreApplication::processEvents();
         QCoreApplication::sendPostedEvents();
-        return timer.nsecsElapsed();
+        if (moved)
+            nanoseconds.append(timer.nsecsElapsed());
     }
 
     void draw(const QWidget &window, const QLineF &way)
     {
         for (qreal at = pixelsPerMove; at < way.length(); at += pixelsPerMove) {
-            const qint64 taken = moveTo(window, way.pointAt(at / way.length()).toPoint());
+            moveTo(window, way.pointAt(at / way.length()).toPoint());
             if (!moved)
                 std::exit(1);
-            nanoseconds += taken;
-            ++moves;
         }
     }
 
     bool moved = false;
-    qint64 nanoseconds = 0;
-    qint64 pixels = 0;
-    int moves = 0;
+    QElapsedTimer timer;
+    QVector<qint64> nanoseconds;
+    int pixels = 0;
 };
 
 } // namespace

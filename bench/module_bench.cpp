@@ -8,6 +8,7 @@
 #include "client/shell/ClientStyle.h"
 #include "host/kelvra_data/UserData.h"
 #include "host/kelvra_data/UserRole.h"
+#include "host/kelvra_saas/Response.h"
 #include "host/kelvra_worker/UiSettings.h"
 #include "login/frame/LoginInit.h"
 #include "login/frame/LoginSignals.h"
@@ -15,12 +16,18 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QPixmapCache>
+#include <QQueue>
+#include <QSocketNotifier>
 #include <QTemporaryDir>
 #include <QTimer>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <functional>
 #include <memory>
+
+#include <unistd.h>
 
 using namespace kelvra_login;
 using kelvra_data::Store;
@@ -29,10 +36,10 @@ using kelvra_data::UserData;
 namespace {
 
 constexpr double nsPerMs = 1e6;
-constexpr int showings = 5;     // of each screen, after the first
-constexpr int pauseMs = 40;     // between two showings: what the one before has left to do
-constexpr int settleMs = 1500;  // until a screen that nobody touches counts as idle
-constexpr int countMs = 10000;  // for which its wake-ups are counted
+constexpr int showings = 5;    // of each screen, after the first
+constexpr int pauseMs = 40;    // between two showings: what the one before has left to do
+constexpr int settleMs = 1500; // until a screen that nobody touches counts as idle
+constexpr int countMs = 10000; // for which its wake-ups are counted
 constexpr int lockSeconds = 180;
 const QString user = QStringLiteral("root");
 
@@ -43,40 +50,71 @@ struct Screen
     int event;
 };
 
-constexpr Screen normalScreen{"normal", Screen::Local, NormalLogin};
-constexpr Screen gestureScreen{"gesture", Screen::Local, GestureLogin};
-constexpr Screen qrScreen{"qr", Screen::Cloud, SaasScanQRCodeLogin};
-constexpr Screen splashScreen{"splash", Screen::Splash, 0};
-constexpr Screen otherScreens[] = {{"method", Screen::Local, LoginMethodSel},
-                                   {"create", Screen::Local, CreateSuperUser},
-                                   {"questions", Screen::Local, SetSecretAnswer},
-                                   {"answers", Screen::Local, VerifySecretAnswer},
-                                   {"reset", Screen::Local, ResetSuperUserPwd},
-                                   {"cloud_password", Screen::Cloud, SaasPwdLogin},
-                                   {"cloud_pin", Screen::Cloud, SaasVerificationCodeLogin}};
-
-/** A cloud whose answers arrive as those of a network do: from outside, with no timer of the program's own. */
-class InstantCloud : public kelvra_saas::CloudService
-{
-public:
-    void send(const kelvra_saas::CloudRequest &request, const Callback &callback) override
-    {
-        using namespace kelvra_saas;
-        CloudAnswer answer;
-        answer.id = request.id;
-        answer.fields = {{accountField, request.fields.value(accountField)},
-                         {codeIdField, QStringLiteral("1234567890")},
-                         {validitySecondsField, 300},
-                         {statusField, codeWaiting}};
-        QMetaObject::invokeMethod(qApp, [answer, callback] { callback(answer); }, Qt::QueuedConnection);
-    }
-};
+// A cloud page is a page of the login form, which another screen has to follow before the form can be shown again.
+constexpr Screen allScreens[] = {{"normal", Screen::Local, NormalLogin},
+                                 {"cloud_password", Screen::Cloud, SaasPwdLogin},
+                                 {"cloud_pin", Screen::Cloud, SaasVerificationCodeLogin},
+                                 {"qr", Screen::Cloud, SaasScanQRCodeLogin},
+                                 {"gesture", Screen::Local, GestureLogin},
+                                 {"method", Screen::Local, LoginMethodSel},
+                                 {"create", Screen::Local, CreateSuperUser},
+                                 {"questions", Screen::Local, SetSecretAnswer},
+                                 {"answers", Screen::Local, VerifySecretAnswer},
+                                 {"reset", Screen::Local, ResetSuperUserPwd},
+                                 {"splash", Screen::Splash, 0}};
 
 [[noreturn]] void fail(const char *what, const char *where)
 {
     std::fprintf(stderr, "module_bench: %s (%s)\n", what, where);
     std::exit(1);
 }
+
+/** A cloud whose answers arrive as those of a network do: through a file descriptor, with no timer. */
+class PipeCloud : public kelvra_saas::CloudService
+{
+public:
+    PipeCloud()
+    {
+        if (pipe(ends) != 0)
+            return;
+        notifier = std::make_unique<QSocketNotifier>(ends[0], QSocketNotifier::Read);
+        QObject::connect(notifier.get(), &QSocketNotifier::activated, notifier.get(), [this] { answerNext(); });
+    }
+
+    ~PipeCloud() override
+    {
+        notifier.reset();
+        close(ends[0]);
+        close(ends[1]);
+    }
+
+    void send(const kelvra_saas::CloudRequest &request, const Callback &callback) override
+    {
+        using namespace kelvra_saas;
+        CloudAnswer answer;
+        answer.id = request.id;
+        answer.code = successCode;
+        answer.fields = {{accountField, request.fields.value(accountField)},
+                         {codeIdField, QStringLiteral("1234567890")},
+                         {validitySecondsField, 300},
+                         {statusField, codeWaiting}};
+        waiting.enqueue([answer, callback] { callback(answer); });
+        if (write(ends[1], "a", 1) != 1)
+            fail("no answer", qPrintable(request.operation));
+    }
+
+private:
+    void answerNext()
+    {
+        char byte;
+        if (read(ends[0], &byte, 1) == 1)
+            waiting.dequeue()();
+    }
+
+    int ends[2] = {-1, -1};
+    std::unique_ptr<QSocketNotifier> notifier;
+    QQueue<std::function<void()>> waiting;
+};
 
 void print(const char *prefix, const char *name, const char *unit, double value)
 {
@@ -153,10 +191,9 @@ public:
     void login(int round)
     {
         // The program has shown windows before, or the first of the two would pay for that.
-        double warm = showDialog();
-        warm += openLogin(false);
+        (void)showDialog();
+        (void)openLogin(false);
         closeLogin();
-        Q_UNUSED(warm)
         for (int showing = 0; showing < 2 * showings; ++showing) {
             // Pictures that the one before has loaded are no help.
             QPixmapCache::clear();
@@ -165,27 +202,27 @@ public:
                 print("", "login", "_ms", openLogin(false));
                 closeLogin();
             } else {
-                print("", "dialog", "_ms", showDialog());
+                print("login_", "dialog", "_ms", showDialog());
             }
         }
     }
 
-    /** First and further showings of every screen; the dialog opens on one or the other form, as the round has it. */
+    /** First and further showings of every screen but the one that the dialog opens on, which the round decides. */
     void screens(int round)
     {
         const bool onGesture = round % 2 != 0;
         openLogin(onGesture);
-        const Screen &other = onGesture ? normalScreen : gestureScreen;
         for (int showing = 0; showing <= showings; ++showing) {
-            const char *unit = showing == 0 ? "_first_ms" : "_again_ms";
-            print("screen_", other.name, unit, show(other));
-            for (const Screen &screen : otherScreens) {
-                print("screen_", screen.name, unit, show(screen));
+            for (const Screen &screen : allScreens) {
+                const bool opening =
+                    screen.kind == Screen::Local && screen.event == (onGesture ? GestureLogin : NormalLogin);
+                if (!opening && screen.kind != Screen::Splash)
+                    print("screen_", screen.name, showing == 0 ? "_first_ms" : "_again_ms", show(screen));
             }
-            print("screen_", qrScreen.name, unit, show(qrScreen));
         }
-        print("screen_", splashScreen.name, "_first_ms", show(splashScreen));
-        plainPages();
+        print("screen_", "splash", "_first_ms", show(find(QStringLiteral("splash"))));
+        closeLogin();
+        plainDialog();
     }
 
     void wakeUps(const QString &name)
@@ -201,7 +238,7 @@ public:
                 UserData::_instance().updateLockInfo(true, lockSeconds);
             openLogin(false);
             if (name != QLatin1String("locked"))
-                show(find(name));
+                go(find(name));
         }
         pause(settleMs);
         WakeUps counter;
@@ -229,10 +266,11 @@ private:
     void closeLogin()
     {
         const QWidgetList windows = QApplication::topLevelWidgets();
-        for (QWidget *window : windows) {
-            if (window->inherits("kelvra_login::LoginDlg"))
-                delete window;
-        }
+        const auto dialog = std::find_if(windows.begin(), windows.end(), [](const QWidget *window) {
+            return window->inherits("kelvra_login::LoginDlg");
+        });
+        if (dialog != windows.end())
+            delete *dialog;
     }
 
     double showDialog()
@@ -261,52 +299,45 @@ private:
         return ms;
     }
 
-    double show(const Screen &screen)
+    static void go(const Screen &screen)
     {
         auto &hub = LoginSignals::_instance();
-        // A cloud page is a page of the login form.
-        if (screen.kind == Screen::Cloud)
-            emit hub.signalLoginEvent(NormalLogin, {});
-        return timeOf(screen.name, [&] {
-            if (screen.kind == Screen::Splash)
-                emit hub.signalLoginSuccess();
-            else if (screen.kind == Screen::Cloud)
-                emit hub.signalSaasLoginEvent(SaasLoginEvent(screen.event), {});
-            else
-                emit hub.signalLoginEvent(LoginEvent(screen.event), {user});
-        });
+        if (screen.kind == Screen::Splash)
+            emit hub.signalLoginSuccess();
+        else if (screen.kind == Screen::Cloud)
+            emit hub.signalSaasLoginEvent(SaasLoginEvent(screen.event), {});
+        else
+            emit hub.signalLoginEvent(LoginEvent(screen.event), {user});
     }
 
-    /** The yardstick of the screens: an empty widget over the picture. */
-    void plainPages()
+    double show(const Screen &screen)
+    {
+        if (screen.kind == Screen::Cloud)
+            emit LoginSignals::_instance().signalLoginEvent(NormalLogin, {});
+        return timeOf(screen.name, [&screen] { go(screen); });
+    }
+
+    /** The yardstick of the screens: painting the picture alone. */
+    void plainDialog()
     {
         PictureDialog dialog;
+        firstPaint.expectNext();
         dialog.show();
-        QWidget *page = nullptr;
-        for (int showing = 0; showing <= showings; ++showing) {
-            print("screen_plain", "", showing == 0 ? "_first_ms" : "_again_ms", timeOf("plain", [&] {
-                      if (!page) {
-                          page = new QWidget(&dialog);
-                          page->setGeometry(dialog.rect());
-                      }
-                      page->show();
-                  }));
-            page->hide();
-        }
+        firstPaint.wait();
+        for (int showing = 0; showing < showings; ++showing)
+            print("screen_", "plain", "_ms", timeOf("plain", [&dialog] { dialog.repaint(); }));
     }
 
-    static Screen find(const QString &name)
+    static const Screen &find(const QString &name)
     {
-        for (const Screen &screen : {normalScreen, gestureScreen, qrScreen, splashScreen})
+        for (const Screen &screen : allScreens) {
             if (name == QLatin1String(screen.name))
                 return screen;
-        for (const Screen &screen : otherScreens)
-            if (name == QLatin1String(screen.name))
-                return screen;
+        }
         fail("no such screen", qPrintable(name));
     }
 
-    InstantCloud cloud;
+    PipeCloud cloud;
     FirstPaint firstPaint;
     Paints paints;
 };
