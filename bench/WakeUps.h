@@ -13,7 +13,7 @@ public:
 
     /** Runs the program for that long; says how many timers went off, by the class of who has set them. */
     QMap<QByteArray, int> count(int milliseconds);
-    /** How often the event loop has gone on meanwhile, for whatever reason; its last turn is the count's own. */
+    /** How often the event loop has gone on meanwhile, for whatever reason; the first and the last are the count's. */
     int turns() const { return loopTurns; }
 
 protected:
