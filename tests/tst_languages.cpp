@@ -284,7 +284,7 @@ private:
             const QString title = table->model()->headerData(column, Qt::Horizontal).toString();
             compare(header, title, header->sectionSizeHint(column), header->sectionSize(column));
             if (column < header->count() - 1) // the last one takes what is left
-                compare(table, "below " + title, static_cast<const TableColumns *>(table)->sizeHintForColumn(column),
+                compare(table, "below " + title, (table->*&TableColumns::sizeHintForColumn)(column),
                         header->sectionSize(column));
         }
     }
