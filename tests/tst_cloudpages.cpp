@@ -1,4 +1,5 @@
 #include "TestTools.h"
+#include "host/kelvra_contact/SystemMsg.h"
 #include "host/kelvra_saas/SaasWorker.h"
 #include "login/cloud/QRCodeLoginPanel.h"
 #include "login/local/NormalLoginWt.h"
@@ -99,6 +100,18 @@ private slots:
         QCOMPARE(deeds(), success);
         QCOMPARE(host.alerts.last().first, QString(call == "request" ? "title 2" : "title 1"));
         QVERIFY(!login || state("loginBt").endsWith("busy")); // the dialog moves on
+
+        for (const bool left : {false, true}) { // somebody else is in by then, or the window is closed
+            openForm();
+            const auto late = ask(call);
+            host.loginSuccess = !left;
+            window->setVisible(!left);
+            if (left)
+                emit kelvra_contact::SystemMsg::_instance().signalPrepareQuitSystem();
+            late.answer(1000);
+            QCOMPARE(deeds(), call == "request" ? success : QString());
+            host.loginSuccess = false;
+        }
 
         openForm();
         const auto fourth = ask(call);

@@ -54,12 +54,13 @@ private slots:
             const QString automatic = *way == 'd' ? "false" : "true";
             QTest::newRow(way) << QString("loginSuccessLog(ann,1,%1) ").arg(automatic) +
                                       localLogin("ann,secret,7", automatic) + " setValue(client_login_mode,1)";
-            for (const char *inVain : {"logged in", "quits", "page gone"})
+            for (const char *inVain : {"logged in", "quits", "page gone", "fails"})
                 QTest::addRow("%s, %s", way, inVain) << "";
         }
         QTest::newRow("automatic, user gone") << "messageAlert(Account ann not exist)";
         QTest::newRow("automatic, cloud login") << "";
-        for (const char *why : {"seven days", "flag off", "no record", "other computer", "locked", "switched"})
+        for (const char *why :
+             {"seven days", "flag off", "no record", "other computer", "locked", "automatic, switches", "switched"})
             QTest::newRow(why) << "";
     }
 
@@ -89,6 +90,11 @@ private slots:
             click("autoLogin", QPoint(8, 12));
             QCOMPARE(deeds(), QString("verifyUserGesture(ann,0124)"));
         }
+        if (is("switches"))
+            LoginWorker::_instance().switchUser();
+        if (is("fails"))
+            LoginWorker::_instance().setLocked(true);
+        deeds();
         host.loginSuccess = is("logged in");
         if (is("quits"))
             emit kelvra_contact::SystemMsg::_instance().signalPrepareQuitSystem();

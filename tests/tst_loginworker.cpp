@@ -1,5 +1,6 @@
 #include "TestTools.h"
 #include "host/kelvra_base/BaseTools.h"
+#include "host/kelvra_contact/SystemMsg.h"
 #include "login/frame/LoginAccess.h"
 #include "login/frame/LoginWorker.h"
 
@@ -152,11 +153,17 @@ private slots:
             for (const QStringList &params : {QStringList(), QStringList("ann"), {"ann", "pw", "pw"}, {"", "pw"}})
                 worker.login(type, params, true);
             FreshWorker().login(type, {"ann", "pw"}, true); // gone before its shot
+            worker.login(type, {"ann", "pw"}, true);
+            if (type == LocalUser)
+                worker.switchUser();
+            else
+                emit kelvra_contact::SystemMsg::_instance().signalPrepareQuitSystem();
         }
         worker.login(LocalUser, {"ann", "wrong"}, true);
         QTest::qWait(autoLoginDelayMs + 100);
         const QString others = deeds().remove(QRegularExpression("(signal\\w*Event\\([^)]*\\)|show\\(\\)) ?"));
-        QCOMPARE(others, QString("verifyUserPassword(ann,pw) verifyUserPassword(ann,wrong)"));
+        QCOMPARE(others,
+                 QString("verifyUserPassword(ann,pw) verifyUserPassword(ann,pw) verifyUserPassword(ann,wrong)"));
         QCOMPARE(worker.failedTimes(), 1);
     }
 

@@ -221,6 +221,13 @@ private slots:
         QCOMPARE(stored(true, 100, "Locked, Wait:99Sec."), QString("updateLockInfo(true,99)"));
         QCOMPARE(stored(true, 0, "Locked, Wait:0Sec."), QString("updateLockInfo(false,300)"));
         QCOMPARE(stored(false, 0, "Login"), QString());
+        LoginWorker::_instance().setLocked(true); // by another form
+        QCOMPARE(deeds(), QString("updateLockInfo(true,180)"));
+        emit SystemMsg::_instance().signalPrepareQuitSystem();
+        QCOMPARE(deeds(), QString());
+        QCOMPARE(submit("localLoginBt", "alice", "secret"), QString());
+        QTRY_VERIFY(loginText().startsWith("Locked"));
+        LoginWorker::_instance().setLocked(false);
 
         remember();
         newPage();

@@ -141,15 +141,17 @@ private slots:
             QString record;  // "~" stands for the folder of the file
             QString problem; // empty for none
         };
-        const QVector<Row> rows = {{"; nothing\n", "1 0 0 ", ""},
-                                   {"[login]\ncloud_login=False\n[loading]\ncustom_image=1\nimage=/a/图.png\n"
-                                    "[recovery]\nreplace_superuser=true\n",
-                                    "0 1 1 /a/图.png", ""},
-                                   {"[loading]\nimage=\"a, b.png\"\n", "1 0 0 ~/a, b.png", ""},
-                                   {"[login]\ncloud_login=maybe\n[loading]\ncustom_image=true\n", "1 1 0 ",
-                                    "login/cloud_login .*customize.ini"},
-                                   {"[loading]\nimage=a,b.png\n", "1 0 0 ", "loading/image .*customize.ini"},
-                                   {"[login\ncloud_login=true\n", "1 0 0 ", "customize.ini is damaged"}};
+        const QVector<Row> rows = {
+            {"; nothing\n", "1 0 0 ", ""},
+            {"[login]\ncloud_login=False\n[loading]\ncustom_image=1\nimage=/a/图.png\n"
+             "[recovery]\nreplace_superuser=true\n",
+             "0 1 1 /a/图.png", ""},
+            {"[loading]\nimage=\"a, b.png\"\n", "1 0 0 ~/a, b.png", ""},
+            {"[login]\ncloud_login=maybe\n[loading]\ncustom_image=true\n", "1 1 0 ",
+             "login/cloud_login .*customize.ini"},
+            {"[loading]\nimage=a,b.png\n", "1 0 0 ", "loading/image .*customize.ini"},
+            {"[login\ncloud_login=true\n", "1 0 0 ", "customize.ini is damaged"},
+            {"[loading]\nimage=\"a.png\n[recovery]\nreplace_superuser=tru\"e\n", "1 0 0 ", "customize.ini is damaged"}};
         for (const Row &row : rows) {
             writeFile(at("customize.ini"), row.content);
             CustomizeFile customization(at("customize.ini"));

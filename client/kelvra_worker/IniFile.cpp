@@ -26,6 +26,19 @@ bool isText(const QByteArray &data)
            });
 }
 
+// A quote that is not closed takes the lines that follow into its value.
+bool isQuoteLeftOpen(const QByteArray &line)
+{
+    bool open = false;
+    for (int i = 0; i < line.size() && (open || line.at(i) != ';'); ++i) {
+        if (line.at(i) == '\\')
+            ++i;
+        else if (line.at(i) == '"')
+            open = !open;
+    }
+    return open;
+}
+
 // QSettings skips much of what it does not understand, and tells of the rest only to the first who opens a file.
 bool isIni(const QByteArray &data)
 {
@@ -35,6 +48,8 @@ bool isIni(const QByteArray &data)
         const bool section = text.startsWith('[') && text.endsWith(']');
         const bool comment = text.startsWith(';') || text.startsWith('#');
         if (!continued && !text.isEmpty() && !section && !comment && text.indexOf('=') < 1)
+            return false;
+        if (!comment && isQuoteLeftOpen(text))
             return false;
         continued = text.endsWith('\\') && !comment;
     }

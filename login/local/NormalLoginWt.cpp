@@ -111,6 +111,14 @@ void NormalLoginWt::readLock()
     startCountDown();
 }
 
+bool NormalLoginWt::isLocked()
+{
+    // Another form may have brought a lock about since this one was built.
+    if (!locked && LoginWorker::_instance().isLocked())
+        readLock();
+    return locked;
+}
+
 void NormalLoginWt::showFirstPage()
 {
     if (cloudLoginEnabled() && SystemWorker::_instance().lastLoggedUserType() == kelvra_worker::CloudUser) {
@@ -226,7 +234,7 @@ void NormalLoginWt::clickLoginSoon()
 
 void NormalLoginWt::slotLocalLoginBtClicked()
 {
-    if (locked || !hasUserName())
+    if (isLocked() || !hasUserName())
         return;
     const QString userName = ui->localUserWt->text();
     const QString pwd = ui->localPwdWt->text();
@@ -373,7 +381,7 @@ void NormalLoginWt::forgotPressed()
 
 void NormalLoginWt::gesturePressed()
 {
-    if (locked || !hasUserName())
+    if (isLocked() || !hasUserName())
         return;
     const QString userName = ui->localUserWt->text();
     if (UserData::_instance().isUserConfigureGesture(userName))

@@ -48,6 +48,7 @@ protected:
 private:
     void restoreLastUser();
     void readLock();
+    bool isLocked();
     void showFirstPage();
     void connectFields();
     void connectPages();

@@ -1,15 +1,13 @@
 // Sends random real events to the module with the fake host and checks after each what must always be true.
 #include "TestTools.h"
+#include "VirtualClock.h"
 #include "host/kelvra_contact/SystemMsg.h"
 #include "host/kelvra_saas/SaasWorker.h"
 #include "login/frame/LoginAccess.h"
 #include "login/frame/LoginInit.h"
 #include "login/frame/LoginWorker.h"
-#include "login/gesture/GesturePoint.h"
 
 #include <csignal>
-#include <sys/syscall.h>
-#include <unistd.h>
 
 using namespace kelvra_login;
 using kelvra_saas::Response;
@@ -21,8 +19,7 @@ constexpr unsigned hangSeconds = 120;
 
 quint32 seed = 1;
 int events = 0;
-qint64 now = 1000000; // milliseconds: time stands still but where the monkey lets it pass
-int timeStep = 0;     // the last one
+int timeStep = 0; // the last one, in milliseconds
 QStringList trace;
 
 [[noreturn]] void fail(const QString &what)
@@ -89,6 +86,7 @@ struct Watch
             trace << "    -> " + call;
         if (deed.startsWith("verifyUser")) {
             failures += !isRight(call, name);
+            ++seen[isRight(call, name) ? "right " + deed : "wrong " + deed];
             if (deed == "verifyUserGesture" && !locked && isRight(call, name))
                 drawn[name] = now;
         } else if (deed == "loginSuccessLog") {
@@ -224,12 +222,16 @@ private:
             once("time", [this] { pass(1 + below(chance(20) ? 3000 : 200), 50); });
         else if (what < 42)
             once("language", [this] { brackets.reset(brackets ? nullptr : new Brackets); });
-        else if (what < 46)
-            once("resend", [this] { emit resend.signalGetVerificationCodeRemainingSecs(below(61)); });
-        else if (what < 50)
-            once("again", [this] { emit messages.signalClientRepeatedStart(); });
         else if (what < 51)
-            once("abnormal", [this] { emit messages.signalDgwAbnormal(chance(50) ? "broken" : ""); });
+            once("host", [this] {
+                const int signal = below(20);
+                if (signal == 0)
+                    emit messages.signalDgwAbnormal(chance(50) ? "broken" : "");
+                else if (signal < 8)
+                    emit messages.signalClientRepeatedStart();
+                else
+                    emit resend.signalGetVerificationCodeRemainingSecs(below(61));
+            });
         else if (what < 52)
             once("lock time", [this] { pass(1000 * lockSecondsOnFailure + 2000, 50000); });
         else if (what < 53 && depth == 0)
@@ -246,8 +248,9 @@ private:
         const int what = below(70);
         const Parts fields = visible("LineEdit$");
         const Parts parts = visible("Button|MethodBt|CheckBox|ComboBox|LinkLabel|List");
-        if (const Parts pads = visible("GesturePanel"); what < 15 && !pads.isEmpty()) {
-            draw(pads.first());
+        const Parts dots = visible("GesturePoint");
+        if (what < 25 && dots.size() == 9) {
+            draw(dots);
         } else if (what < 35 && !parts.isEmpty()) {
             click(pick(parts));
         } else if (what < 38) {
@@ -289,42 +292,42 @@ private:
     void stroke(const QVector<QPoint> &way)
     {
         const QPointer<QWidget> window = top->window();
-        const auto mouse = [&](QEvent::Type event, const QPoint &at, Qt::MouseButton held, Qt::MouseButton changed) {
-            once(QString("mouse %1 at %2,%3").arg(event).arg(at.x()).arg(at.y()), [&] {
+        const auto mouse = [&](QTest::MouseAction action, const QPoint &at) {
+            once(QString("mouse %1 at %2,%3").arg(action).arg(at.x()).arg(at.y()), [&] {
                 if (window && window->isVisible())
-                    qt_handleMouseEvent(window->windowHandle(), at, window->mapToGlobal(at), held, changed, event, {},
-                                        int(now));
+                    QTest::mouseEvent(action, window->windowHandle(), Qt::LeftButton, {}, at);
             });
         };
-        mouse(QEvent::MouseButtonPress, way.first(), Qt::LeftButton, Qt::LeftButton);
+        mouse(QTest::MousePress, way.first());
         for (const QPoint &point : way)
-            mouse(QEvent::MouseMove, point, Qt::LeftButton, Qt::NoButton);
-        mouse(QEvent::MouseButtonRelease, way.last(), Qt::NoButton, Qt::LeftButton);
+            mouse(QTest::MouseMove, point + QPoint(1, 1)); // a move to where the mouse is already would be none
+        mouse(QTest::MouseRelease, way.last());
+        if (way.size() == 1 && chance(5))
+            mouse(QTest::MouseDClick, way.first());
     }
 
-    void draw(const QWidget *pad)
+    void draw(const Parts &dots)
     {
-        const auto dots = pad->findChildren<GesturePoint *>();
         QVector<QPoint> way;
         QPoint last;
-        for (const QChar digit : chance(30) ? QString("0124") : QString::number(10 + below(80000))) {
-            const QPoint dot = dots.at(qMin(8, digit.digitValue()))->getCentre();
-            way << pad->mapTo(top, way.isEmpty() ? dot : dot + (dot - last) / 8); // just past it
+        for (const QChar digit : chance(40) ? QString("0124") : QString::number(1000 + below(7000)).replace('9', '8')) {
+            const QPoint dot = dots.value(digit.digitValue())->geometry().center();
+            way << dots.first()->parentWidget()->mapTo(top, way.isEmpty() ? dot : dot + (dot - last) / 10); // past it
             last = dot;
         }
         stroke(way);
-        if (chance(40))
+        if (chance(60))
             once("time", [this] { pass(autoLoginDelayMs + 100, 50); });
     }
 
-    void key(const QString &name, const QString &text = {}, bool held = false)
+    void key(const QString &name, const QString &text = {})
     {
         once("key " + name, [&] {
             const int code = QKeySequence(name)[0];
             const Qt::KeyboardModifiers modifiers(code & int(Qt::KeyboardModifierMask));
             for (const auto event : {QEvent::KeyPress, QEvent::KeyRelease}) {
                 if (QWindow *window = QGuiApplication::focusWindow())
-                    qt_handleKeyEvent(window, event, code & ~int(Qt::KeyboardModifierMask), modifiers, text, held);
+                    qt_handleKeyEvent(window, event, code & ~int(Qt::KeyboardModifierMask), modifiers, text);
             }
         });
     }
@@ -350,7 +353,10 @@ private:
             const QString place = field ? field->parent()->objectName() : QString();
             type(field, fitting.value(place, place.endsWith("wdWt") ? "Passw0rd1" : "123456"));
         }
-        key("Return", "\r", chance(10));
+        QWidget *focus = QApplication::focusWidget();
+        if (focus && chance(10))
+            once("held Return", [&] { holdEnter(focus); });
+        key("Return", "\r");
     }
 
     void answer(Question &question)
@@ -489,15 +495,6 @@ private:
 };
 
 } // namespace
-
-// What Qt's timers and clocks read.
-extern "C" __attribute__((visibility("default"))) int clock_gettime(clockid_t clock, timespec *time) noexcept
-{
-    if (clock != CLOCK_MONOTONIC)
-        return int(syscall(SYS_clock_gettime, clock, time));
-    *time = {time_t(now / 1000), long(now % 1000 * 1000000)};
-    return 0;
-}
 
 int main(int argc, char **argv)
 {
