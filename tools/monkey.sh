@@ -1,12 +1,13 @@
 #!/bin/sh
-# Sends 100,000 random events for each seed at the module: tools/monkey.sh [seeds [first seed]]
+# Sends 100,000 random events at the login module for each seed, up to the first that fails: tools/monkey.sh [seed ...]
 set -eu
 cd "$(dirname "$0")/.."
-build=${BUILD_DIR:-build/dev}
-cmake --preset "${PRESET:-dev}" -B "$build" >/dev/null
+preset=${PRESET:-dev}
+build=${BUILD_DIR:-build/$preset}
+cmake --preset "$preset" -B "$build" >/dev/null
 cmake --build "$build" --target monkey --parallel "$(nproc)" >/dev/null
-export QT_QPA_PLATFORM=offscreen
-first=${2:-1}
-for seed in $(seq "$first" $((first + ${1:-10} - 1))); do
-    "$build/bin/monkey" --seed "$seed" --events 100000
+export QT_QPA_PLATFORM=offscreen LSAN_OPTIONS="suppressions=$PWD/tests/lsan.supp:print_suppressions=0"
+[ $# -gt 0 ] || set -- 1 2 3 4 5 6 7 8 9 10
+for seed; do
+    "$build/bin/monkey" --seed "$seed" --events "${EVENTS:-100000}"
 done

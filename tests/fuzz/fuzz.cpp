@@ -1,4 +1,4 @@
-// Random input for what the client reads from files and takes from the mouse: fuzz TARGET [COUNT [SEED]]
+// Random input for what the client reads from files and takes from the mouse: fuzz [TARGET|all [COUNT [SEED]]]
 #include "client/kelvra_data/Store.h"
 #include "client/kelvra_data/Vault.h"
 #include "client/kelvra_saas/AccountsFile.h"
@@ -256,7 +256,7 @@ int main(int argc, char **argv)
                                                   {"key", &Fuzz::key},
                                                   {"gesture", &Fuzz::gesture}};
     for (const QString &target : targets.keys()) {
-        if (arguments.value(1, target) != target)
+        if (arguments.value(1, "all") != "all" && arguments[1] != target)
             continue;
         const int count = arguments.value(2, "2000").toInt();
         Fuzz fuzz(count, arguments.value(3, "1").toInt());
