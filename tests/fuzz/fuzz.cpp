@@ -63,11 +63,13 @@ public:
         const QRegularExpression permission("^\\s*replace_superuser\\s*=.*(true|1)",
                                             QRegularExpression::MultilineOption |
                                                 QRegularExpression::CaseInsensitiveOption);
+        const QRegularExpression openQuote("^[^;#\"\\\\\n]*\"[^;\"\\\\\n]*$", QRegularExpression::MultilineOption);
         run(readFile(path).replace("superuser=false", "superuser=true"), [&] {
             kelvra_worker::CustomizeFile file(chosenFile);
             QString error;
             const bool ok = file.read(&error);
             expect(ok == error.isEmpty() && (!ok || QString::fromUtf8(input).toUtf8() == input));
+            expect(!ok || !openQuote.match(QString::fromUtf8(input)).hasMatch());
             expect(!file.isSuperUserReplaceable() || permission.match(QString::fromUtf8(input).remove('"')).hasMatch());
             return ok;
         });
