@@ -19,12 +19,13 @@ if(NOT WIN32 AND NOT KELVRA_SANITIZE)
     target_link_options(kelvra_options INTERFACE $<$<STREQUAL:$<TARGET_PROPERTY:TYPE>,SHARED_LIBRARY>:-Wl,-z,defs>)
 endif()
 
-# kelvra_client_library(<name> DEFINE <macro> SOURCES ... [DIALOGS ...] [LINK ...] [NEEDS ...])
+# kelvra_client_library(<name> DEFINE <macro> SOURCES ... [DIALOGS ...] [LINK ...] [NEEDS ...] [HEADERS ...])
 # One of the client's libraries, under the contract's name. Its widgets and services are an object library,
 # <name>_objects, that links nothing of the client, so that tests can put it beside substitutes of their own.
-# LINK names libraries from outside the tree, NEEDS other libraries of the client.
+# LINK names libraries from outside the tree, NEEDS other libraries of the client; HEADERS are those that a shell
+# includes besides the contract's.
 function(kelvra_client_library name)
-    cmake_parse_arguments(ARG "" "DEFINE" "SOURCES;DIALOGS;LINK;NEEDS" ${ARGN})
+    cmake_parse_arguments(ARG "" "DEFINE" "SOURCES;DIALOGS;LINK;NEEDS;HEADERS" ${ARGN})
     add_library(${name} SHARED)
     foreach(part IN ITEMS SOURCES DIALOGS)
         if(NOT ARG_${part})
@@ -39,6 +40,23 @@ function(kelvra_client_library name)
         target_link_libraries(${objects} PUBLIC kelvra_host ${ARG_LINK} PRIVATE kelvra_options)
         target_link_libraries(${name} PRIVATE ${objects})
     endforeach()
-    target_link_libraries(${name} PRIVATE kelvra_options PUBLIC kelvra_host ${ARG_LINK} ${ARG_NEEDS})
+    # Of what is linked from elsewhere only Qt shows in headers.
+    set(shown ${ARG_LINK})
+    list(FILTER shown INCLUDE REGEX ^Qt5::)
+    target_link_libraries(${name} PRIVATE kelvra_options PUBLIC kelvra_host ${shown} ${ARG_NEEDS})
     set_target_properties(${name} PROPERTIES LINKER_LANGUAGE CXX)
+    list(TRANSFORM ARG_HEADERS PREPEND client/${name}/)
+    kelvra_install_library(${name} client ${ARG_HEADERS})
+endfunction()
+
+# kelvra_translations(<name> <files> <compiled>): the translation files of "kelvra_client" or "kelvra_login", from the
+# root of the tree, and what they are compiled to, beside the target that is made of them in this folder.
+function(kelvra_translations name files compiled)
+    # Codes of the languages beside English, as in client/kelvra_worker/Languages.cpp.
+    set(sources zh_CN de es fr ru ja)
+    list(TRANSFORM sources REPLACE ".+" "client/translations/${name}_\\0.ts")
+    set(${files} ${sources} PARENT_SCOPE)
+    list(TRANSFORM sources PREPEND ${PROJECT_SOURCE_DIR}/)
+    qt5_add_translation(outputs ${sources})
+    set(${compiled} ${outputs} PARENT_SCOPE)
 endfunction()

@@ -46,6 +46,9 @@ render() {
     app_icon)
         render_png 1 "$svg" "$images/${name}_64.png"
         render_png 4 "$svg" "$images/${name}_256.png"
+        # That of the program on Windows.
+        convert "$images/${name}_256.png" \( -clone 0 -resize 48x48 \) \( -clone 0 -resize 32x32 \) \
+            \( -clone 0 -resize 16x16 \) "$images/$name.ico"
         ;;
     waiting)
         render_waiting "$svg" "$images/$name.gif"

@@ -1,0 +1,36 @@
+# `cpack` in a build folder: two Debian packages, or one ZIP for Windows. tools/package.sh does it from nothing.
+set(CPACK_PACKAGE_NAME kelvra)
+set(CPACK_PACKAGE_VENDOR "The kelvra developers")
+set(CPACK_PACKAGE_CONTACT "The kelvra developers <kelvra@localhost>")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "video-management client with its login module")
+set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
+set(CPACK_STRIP_FILES ON)
+set(CPACK_VERBATIM_VARIABLES ON)
+
+set(CPACK_COMPONENTS_ALL module client development)
+set(CPACK_COMPONENT_MODULE_GROUP client)
+set(CPACK_COMPONENT_CLIENT_GROUP client)
+set(CPACK_COMPONENT_DEVELOPMENT_GROUP development)
+
+if(WIN32)
+    set(CPACK_GENERATOR ZIP)
+    set(CPACK_PACKAGE_FILE_NAME kelvra-${PROJECT_VERSION}-windows-x64)
+else()
+    set(CPACK_GENERATOR DEB)
+endif()
+set(CPACK_DEB_COMPONENT_INSTALL ON)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_SECTION video)
+set(CPACK_DEBIAN_CLIENT_PACKAGE_NAME kelvra-client)
+set(CPACK_DEBIAN_CLIENT_PACKAGE_SHLIBDEPS ON)
+# What no library asks for: the driver of the database, and the fonts that stand in for "microsoft yahei".
+set(CPACK_DEBIAN_CLIENT_PACKAGE_DEPENDS "libqt5sql5-sqlite, fonts-open-sans, fonts-wqy-microhei")
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME kelvra-login-dev)
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "kelvra-client (= ${PROJECT_VERSION}), qtbase5-dev")
+# The libraries are for whoever links with them, so ldconfig has to know.
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
+
+include(CPack)
+cpack_add_component_group(client DESCRIPTION "video-management client with its login module")
+cpack_add_component_group(development DESCRIPTION "headers and CMake package of kelvra_login")
