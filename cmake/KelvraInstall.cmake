@@ -57,8 +57,12 @@ function(kelvra_install_library target component)
     endforeach()
 endfunction()
 
-# kelvra_install_package(<part>...): the CMake package with the parts that have been installed.
+# kelvra_install_package(<part>...): the CMake package with the parts that have been installed. As a part of somebody
+# else's tree there is none: its targets are there.
 function(kelvra_install_package)
+    if(NOT PROJECT_IS_TOP_LEVEL)
+        return()
+    endif()
     foreach(part IN LISTS ARGN)
         install(
             EXPORT kelvra_login-${part} NAMESPACE kelvra_login:: DESTINATION ${KELVRA_INSTALL_CMAKEDIR}

@@ -4,8 +4,12 @@
 #include "client/kelvra_saas/SaasSetup.h"
 #include "client/kelvra_worker/WorkerSetup.h"
 
+#include <QResource>
+
 bool HostSetup::open(const QString &folder)
 {
+    // Images, style sheet and translations, which the module takes from its host.
+    QResource::registerResource(QStringLiteral(RESOURCES));
     kelvra_worker::WorkerSetup::setDataFolder(folder);
     kelvra_saas::SaasSetup::setDataFolder(folder);
     return kelvra_data::Store::_instance().open(folder);

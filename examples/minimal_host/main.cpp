@@ -10,8 +10,8 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QFont>
 #include <QLabel>
-#include <QResource>
 #include <QTextStream>
 #include <QTimer>
 
@@ -20,10 +20,14 @@ using kelvra_worker::SystemWorker;
 
 namespace {
 
-/** Images, style sheet and translations, which the module takes from its host. */
-void useResources()
+void useStyle()
 {
-    QResource::registerResource(QStringLiteral(RESOURCES));
+    // The forms ask for "microsoft yahei"; this stands in for it where it is not installed.
+    QFont::insertSubstitution(QStringLiteral("microsoft yahei"), QStringLiteral("Open Sans"));
+    QFont font(QStringLiteral("microsoft yahei"));
+    font.setPixelSize(13);
+    QApplication::setFont(font);
+
     QFile sheet(QStringLiteral(":/style/kelvra_client.qss"));
     if (sheet.open(QIODevice::ReadOnly))
         qApp->setStyleSheet(QString::fromUtf8(sheet.readAll()));
@@ -69,7 +73,7 @@ int main(int argc, char *argv[])
         QTextStream(stderr) << "usage: minimal_host DATA_FOLDER [PICTURE]\n";
         return 2;
     }
-    useResources();
+    useStyle();
     QLabel window;
     window.resize(480, 320);
     window.setAlignment(Qt::AlignCenter);
