@@ -7,10 +7,10 @@ cd "$(dirname "$0")"
 
 preset=${PRESET:-dev}
 # shellcheck disable=SC2086
-install_missing $build_packages clang-format zbar-tools
+install_missing $build_packages clang-format zbar-tools doxygen
 
 say "Checking the format"
-find host login client bench tests -name '*.h' -o -name '*.cpp' | xargs clang-format --dry-run --Werror
+find host login client bench examples tests -name '*.h' -o -name '*.cpp' | xargs clang-format --dry-run --Werror
 
 build "$preset"
 

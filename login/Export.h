@@ -8,6 +8,10 @@
  * links its objects directly.
  */
 
+/**
+ * @def KELVRA_LOGIN_EXPORT
+ * Marks what the module exports.
+ */
 #if defined(KELVRA_LOGIN_LIBRARY)
 #    define KELVRA_LOGIN_EXPORT Q_DECL_EXPORT
 #elif defined(KELVRA_LOGIN_STATIC)

@@ -22,7 +22,7 @@ class ClientShell : public QObject
 
 public:
     explicit ClientShell(QObject *parent = nullptr);
-    /** Deletes every window that is left, then closes the store: a login page stores its lock when it goes. */
+    /** Deletes every window that is left, then closes the store that they read from. */
     ~ClientShell() override;
 
     /**

@@ -33,12 +33,19 @@ public:
     void setDefaultPos(const QPoint &pos);
 
 protected:
+    /** The drag with the left button; a dialog that fills the screen stays where it is. */
+    ///@{
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
+    ///@}
+    /** Fills the dialog with the background colour given and frames it. */
     void paintEvent(QPaintEvent *event) override;
+    /** Puts the dialog at its default position the first time, and nowhere later. */
     void showEvent(QShowEvent *event) override;
+    /** Ends a drag when the dialog is minimised, maximised or restored. */
     void changeEvent(QEvent *event) override;
+    /** Ends a drag when the dialog is hidden or blocked, and keeps Return from pressing a button by default. */
     bool event(QEvent *event) override;
 
 private:

@@ -15,14 +15,19 @@ class ZCOMMON_EXPORT PEWidget : public QWidget
     Q_OBJECT
 
 public:
+    /** @param parent owner, may be null */
     explicit PEWidget(QWidget *parent = nullptr);
     ~PEWidget() override;
 
 protected:
+    /** Draws background and border of the style sheet that applies. */
     void paintEvent(QPaintEvent *event) override;
+    /** Leaves the event unaccepted: it goes on to the window below. */
+    ///@{
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
+    ///@}
 };
 
 } // namespace ZCOMMON

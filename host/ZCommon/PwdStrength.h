@@ -8,9 +8,9 @@ namespace ZCOMMON {
 enum PwdStrength : int {
     PwdLengthIllegal = -1, ///< shorter or longer than the length rule allows
     PwdTooSimple = 0,      ///< length kept, but not enough kinds of characters
-    PwdWeak = 1,
-    PwdMedium = 2,
-    PwdStrong = 3
+    PwdWeak = 1,           ///< both rules kept; what parts it from the next two is the host's
+    PwdMedium = 2,         ///< as PwdWeak, and better
+    PwdStrong = 3          ///< as PwdWeak, and best
 };
 
 } // namespace ZCOMMON

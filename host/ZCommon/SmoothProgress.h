@@ -17,6 +17,7 @@ class ZCOMMON_EXPORT SmoothProgress : public QObject
     Q_OBJECT
 
 public:
+    /** Stands at 0 percent. @param parent owner, may be null */
     explicit SmoothProgress(QObject *parent = nullptr);
     ~SmoothProgress() override;
 

@@ -10,12 +10,12 @@
 
 namespace ZCOMMON {
 
-inline const QString colorFieldBackground = QStringLiteral("#0e1623");
-inline const QString colorAccent = QStringLiteral("#2c7dce");
-inline const QString colorBorder = QStringLiteral("#323e58");
-inline const QString colorSuccess = QStringLiteral("#00cf8b");
-inline const QString colorError = QStringLiteral("#dc4d4d");
-inline const QString colorBright = QStringLiteral("#ffffff");
+inline const QString colorFieldBackground = QStringLiteral("#0e1623"); ///< ground of input fields
+inline const QString colorAccent = QStringLiteral("#2c7dce");          ///< focused field, main buttons, links
+inline const QString colorBorder = QStringLiteral("#323e58");          ///< frame of fields and dialogs at rest
+inline const QString colorSuccess = QStringLiteral("#00cf8b");         ///< what is kept or has succeeded
+inline const QString colorError = QStringLiteral("#dc4d4d");           ///< what has failed
+inline const QString colorBright = QStringLiteral("#ffffff");          ///< text under the pointer or checked
 
 /** Framed widget: %1 background, %2 border colour. */
 inline const QString styleFramedWidget =

@@ -17,17 +17,23 @@ class ZCOMMON_EXPORT ZLabel : public QLabel
     Q_OBJECT
 
 public:
+    /** Takes its text for plain text, never rich. @param parent owner, may be null */
     explicit ZLabel(QWidget *parent = nullptr);
     ~ZLabel() override;
 
     /** Sets the whole text; what is shown of it follows the label's width. */
     void setText(const QString &text);
 
+    /** Wide enough for the ellipsis alone, as high as the text. */
     QSize minimumSizeHint() const override;
 
 protected:
+    /** Shortens the text anew, for another width or another font. */
+    ///@{
     void resizeEvent(QResizeEvent *event) override;
     void changeEvent(QEvent *event) override;
+    ///@}
+    /** Draws what fits of the text. */
     void paintEvent(QPaintEvent *event) override;
 
 private:

@@ -12,6 +12,7 @@ class ZCOMMON_EXPORT ZLineEdit : public QLineEdit
     Q_OBJECT
 
 public:
+    /** @param parent owner, may be null */
     explicit ZLineEdit(QWidget *parent = nullptr);
     ~ZLineEdit() override;
 
@@ -20,8 +21,11 @@ signals:
     void signalFocusEvent(bool focused);
 
 protected:
+    /** Emits signalFocusEvent() once the base class has done its part. */
+    ///@{
     void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
+    ///@}
 };
 
 } // namespace ZCOMMON

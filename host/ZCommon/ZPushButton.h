@@ -12,6 +12,7 @@ class ZCOMMON_EXPORT ZPushButton : public QPushButton
     Q_OBJECT
 
 public:
+    /** @param parent owner, may be null */
     explicit ZPushButton(QWidget *parent = nullptr);
     ~ZPushButton() override;
 

@@ -1,5 +1,10 @@
 #pragma once
 
+/**
+ * @file
+ * Objects that exist once in a process, whichever library asks, and the macros by which a class becomes one.
+ */
+
 namespace ZCOMMON {
 
 /**

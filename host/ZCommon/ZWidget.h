@@ -15,13 +15,17 @@ class ZCOMMON_EXPORT ZWidget : public QWidget
     Q_OBJECT
 
 public:
+    /** Lets a style sheet draw its background and border: the module's fields carry their frame in one. */
     explicit ZWidget(QWidget *parent = nullptr);
     ~ZWidget() override;
 
 protected:
+    /** Leaves the event unaccepted: it goes on to the window below. */
+    ///@{
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
+    ///@}
 };
 
 } // namespace ZCOMMON

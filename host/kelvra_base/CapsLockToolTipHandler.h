@@ -27,6 +27,7 @@ public:
     CapsLockToolTipHandler(QWidget *owner, QLineEdit *lineEdit, QWidget *field);
     ~CapsLockToolTipHandler() override;
 
+    /** Learns of Caps Lock from the keys and shows or hides the tip; every event goes on. */
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:

@@ -17,6 +17,7 @@ class KELVRA_BASE_EXPORT ComboBox : public QComboBox
     Q_OBJECT
 
 public:
+    /** @param parent owner, may be null */
     explicit ComboBox(QWidget *parent = nullptr);
     ~ComboBox() override;
 
@@ -24,7 +25,9 @@ public:
     QListWidget *getListWt() const;
 
 protected:
+    /** Offers the tool tip of a text that is shown shortened. */
     bool event(QEvent *event) override;
+    /** Draws the box with as much of its text as fits. */
     void paintEvent(QPaintEvent *event) override;
 
 private:

@@ -36,14 +36,21 @@ public slots:
     virtual void slotCloseBtClicked();
     /** Maximises (true) or restores (false) the dialog. */
     virtual void slotMaximizeBtClicked(bool maximize);
+    /** Minimises the dialog. */
     virtual void slotMinimizeBtClicked();
 
 protected:
+    /** The drag by the title bar; a double click on it maximises and restores where the frame has those buttons. */
+    ///@{
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
+    ///@}
+    /** Draws the title bar and the frame over the dialog's ground. */
     void paintEvent(QPaintEvent *event) override;
+    /** Keeps the window buttons in the upper right corner. */
     void resizeEvent(QResizeEvent *event) override;
+    /** Takes Escape, and a close by the window system, to slotCloseBtClicked(). */
     bool event(QEvent *event) override;
 
 private:

@@ -12,6 +12,7 @@ class KELVRA_BASE_EXPORT LogoLabel : public QLabel
     Q_OBJECT
 
 public:
+    /** @param parent owner; the label floats over it and is placed by whoever made it */
     explicit LogoLabel(QWidget *parent = nullptr);
     ~LogoLabel() override;
 };

@@ -17,11 +17,15 @@ class KELVRA_BASE_EXPORT ModuleInitialization : public QObject
 public:
     ~ModuleInitialization() override;
 
+    /** The shell's first call, once at start-up. The base does nothing. */
     virtual void moduleInit();
+    /** The shell's second call; a module bears it more than once. The base does nothing. */
     virtual void init();
+    /** The client goes back to its initial state: the module forgets what it has kept. The base does nothing. */
     virtual void recoveryToInitialState();
 
 protected:
+    /** @param parent owner; null for a module that is a singleton */
     explicit ModuleInitialization(QObject *parent);
 
     /**

@@ -15,6 +15,7 @@ class KELVRA_BASE_EXPORT PwdStrengthWt : public QWidget
     Q_OBJECT
 
 public:
+    /** Shows no grade until setPwd(). @param parent owner, may be null */
     explicit PwdStrengthWt(QWidget *parent = nullptr);
     ~PwdStrengthWt() override;
 
@@ -22,6 +23,7 @@ public:
     ZCOMMON::PwdStrength setPwd(const QString &pwd);
 
 protected:
+    /** Draws the bar, filled and coloured by the grade. */
     void paintEvent(QPaintEvent *event) override;
 
 private:

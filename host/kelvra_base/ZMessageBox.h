@@ -9,7 +9,11 @@ class QWidget;
 namespace kelvra_base {
 
 /** What a message box was left with. The module ignores it. */
-enum MessageBoxButton : int { NoButton = 0, OkButton = 1, CancelButton = 2 };
+enum MessageBoxButton : int {
+    NoButton = 0,    ///< none to offer; ZMessageBox::warning() does not return it
+    OkButton = 1,    ///< all that the module offers
+    CancelButton = 2 ///< left to the rest of the client
+};
 
 /** The client's message box for fatal messages. */
 class KELVRA_BASE_EXPORT ZMessageBox

@@ -31,7 +31,9 @@ public:
     /** No superuser exists and nobody has ever logged in: the client offers the choice of how to begin. */
     bool isFirstLogin();
 
+    /** Whether there is a user of that name, a cloud account that has been adopted included. */
     bool isUserExist(const QString &name);
+    /** Whether that user is a superuser: only for those "Forgot?" leads to the recovery of the password. */
     bool isSuperUser(const QString &name);
     /** Whether a local user of this role exists; the module asks for SuperUserRole only. */
     bool isSuperUserExist(UserRole role);
@@ -69,6 +71,7 @@ public:
     /** Reads that record. False when there is none; the arguments are then left alone. */
     bool getUserLoginRecord(const QString &name, bool &autoLogin, QDateTime &lastLogin);
 
+    /** Whether the next login of `name` may be automatic, as updateUserLoginRecord or userAutoLoginCtrl said last. */
     bool isUserAutoLogin(const QString &name);
     /** Switches automatic login of `name` on or off; false when the user does not exist. */
     bool userAutoLoginCtrl(const QString &name, bool on);
@@ -78,8 +81,11 @@ public:
     /** Whether this computer is that of the last login; automatic login requires it. */
     bool isSameLoginEnvironment();
 
+    /** Whether `name` has a gesture to log in with. */
     bool isUserConfigureGesture(const QString &name);
+    /** Stores a gesture, 4 to 9 digits, in the place of the one before; false for an unknown user. */
     bool updateUserGesture(const QString &name, const QString &gesture);
+    /** Takes the gesture of `name` away; false when there was none. */
     bool deleteUserGesture(const QString &name);
 
     /** Creates the local superuser; false when one exists already or the record is not usable. */

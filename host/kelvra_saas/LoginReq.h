@@ -7,11 +7,11 @@ namespace kelvra_saas {
 /** A cloud login, by password ("PASSWORD") or by SMS code ("VERIFY_CODE"). */
 struct LoginReq
 {
-    QString requestId;
-    QString account;          ///< phone number
-    QString password;         ///< empty for a login by code
-    QString verificationCode; ///< empty for a login by password
-    QString loginType = QStringLiteral("PASSWORD");
+    QString requestId;                              ///< echoed by the answer
+    QString account;                                ///< phone number
+    QString password;                               ///< empty for a login by code
+    QString verificationCode;                       ///< empty for a login by password
+    QString loginType = QStringLiteral("PASSWORD"); ///< "PASSWORD" or "VERIFY_CODE"
 };
 
 } // namespace kelvra_saas

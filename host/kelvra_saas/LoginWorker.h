@@ -31,20 +31,25 @@ namespace kelvra_saas {
 class KELVRA_SAAS_EXPORT LoginWorker : public ZCOMMON::ZSingleton<LoginWorker>
 {
 public:
+    /** Takes an answer that is nothing but a success or a failure. */
     using ResponseCallback = std::function<void(const Response &)>;
+    /** Takes the answer to a login; the error information counts only where it failed. */
     using LoginCallback = std::function<void(const Response &, const LoginErrorInfo &)>;
+    /** Takes a new code; the information counts only where the call succeeded. */
     using QRCodeCallback = std::function<void(const Response &, const LoginQRCodeInfo &)>;
+    /** Takes the status of a code, a QRCodeStatus or any other value. */
     using QRCodeStatusCallback = std::function<void(const Response &, int status)>;
+    /** Takes the account that has been logged in, or was to be. */
     using AccountCallback = std::function<void(const Response &, const QString &account)>;
 
     /** Statuses of a login QR code; any other value means that it still waits to be scanned. */
     enum QRCodeStatus : int {
-        QRCodeScanned = 2002,
-        QRCodeInvalid = 2003,
-        QRCodeConfirmed = 2004,
-        QRCodeCancelled = 2005,
-        QRCodeIllegalOperation = 2006,
-        QRCodeIllegalAddress = 2007
+        QRCodeScanned = 2002,          ///< the phone has it and has yet to confirm
+        QRCodeInvalid = 2003,          ///< expired or unknown
+        QRCodeConfirmed = 2004,        ///< confirmed on the phone: checkLoginQRCodeResult() completes the login
+        QRCodeCancelled = 2005,        ///< cancelled on the phone
+        QRCodeIllegalOperation = 2006, ///< refused for what the phone did
+        QRCodeIllegalAddress = 2007    ///< refused for where the request came from
     };
 
     /** Logs in by password or by SMS code. */

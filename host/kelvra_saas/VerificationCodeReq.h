@@ -7,10 +7,10 @@ namespace kelvra_saas {
 /** A request to send an SMS code. */
 struct VerificationCodeReq
 {
-    QString requestId;
-    QString account; ///< phone number
-    QString purpose = QStringLiteral("LOGIN");
-    QString accountKind = QStringLiteral("PHONE");
+    QString requestId;                             ///< echoed by the answer
+    QString account;                               ///< phone number
+    QString purpose = QStringLiteral("LOGIN");     ///< what the code is for; the module knows no other
+    QString accountKind = QStringLiteral("PHONE"); ///< what `account` is; the module knows no other
 };
 
 } // namespace kelvra_saas

@@ -31,7 +31,8 @@ public:
      * Switches the client to `language`: every widget receives QEvent::LanguageChange. An unknown id changes
      * nothing.
      *
-     * @param save true keeps the choice for the next start
+     * @param language id from getLanguageNames()
+     * @param save     true keeps the choice for the next start
      */
     void setLanguage(Language language, bool save);
 

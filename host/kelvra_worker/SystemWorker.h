@@ -35,10 +35,12 @@ public:
 
     /** The client-wide logged-in flag. The shell clears it before it asks for a change of user. */
     void setLoginSuccess(bool success);
+    /** Whether somebody is in. Automatic logins and late answers of the cloud ask before they log in. */
     bool isLoginSuccess() const;
 
-    /** The kind of the last login, kept across runs; LocalUser before the first. */
+    /** Stores the kind of the last login, for later runs as well; also at the choice of the cloud on the first run. */
     void setLastLoggedInUserType(UserType type);
+    /** The kind of the last login, of this run or an earlier one; LocalUser before the first. */
     UserType lastLoggedUserType() const;
 
     /** Name of the user recorded last, empty before the first login of this run. */

@@ -43,6 +43,7 @@ class KELVRA_LOGIN_EXPORT QRCodeLoginPanel : public QWidget
     Q_OBJECT
 
 public:
+    /** Asks the cloud for nothing yet. @param parent owner, may be null */
     explicit QRCodeLoginPanel(QWidget *parent);
     ~QRCodeLoginPanel() override;
 
@@ -61,10 +62,15 @@ signals:
     void signalScanQRCodeLoginSuccess();
 
 protected:
+    /** Watches the code and the waiting animation, its own children; every event goes on. */
     bool eventFilter(QObject *watched, QEvent *event) override;
+    /** Fetches the first code, or asks on about the one on show; a covered code waits for the refresh button. */
     void showEvent(QShowEvent *event) override;
+    /** Stops asking. */
     void hideEvent(QHideEvent *event) override;
+    /** Keeps cover, button and animation on the code. */
     void resizeEvent(QResizeEvent *event) override;
+    /** Translates the title on show on QEvent::LanguageChange; the code stays. */
     void changeEvent(QEvent *event) override;
 
 private slots:

@@ -27,25 +27,30 @@ public:
     ~LoginAccess() override;
 
     /**
-     * Lets the user set or replace the gesture of the current user, or of `userName`. Like every operation that
-     * takes a parent it shows a dialog and blocks in an event loop of its own until that is closed; `parent` may be
-     * destroyed meanwhile.
+     * Lets the user set or replace the gesture of the current user. Like every operation that takes a parent it
+     * shows a dialog and blocks in an event loop of its own until that is closed; `parent` may be destroyed
+     * meanwhile.
      */
     void addCurUserGesture(QWidget *parent);
+    /** The same for the local user `userName`. */
     void addUserGesture(QWidget *parent, const QString &userName);
 
-    /** Takes the gesture of the current user, or of `userName`, away; the data library's answer. */
+    /** Takes the gesture of the current user away; the data library's answer, false when there was none. */
     bool deleteCurUserGesture();
+    /** The same for the local user `userName`. */
     bool deleteUserGesture(const QString &userName);
 
     /** Asks the current user for the gesture; false when the dialog is closed without the right one. */
     bool gestureVerify(QWidget *parent);
 
+    /** Whether the current user has a gesture to log in with. */
     bool isCurUserConfigureGesture();
 
-    /** Whether the current user is logged in automatically, and the switches; the data library's answers. */
+    /** Whether the next login of the current user may be automatic. */
     bool isCurUserAutoLogin();
+    /** Allows it; the data library's answer. */
     bool openCurUserAutoLogin();
+    /** Forbids it; the data library's answer. */
     bool cancelCurUserAutoLogin();
 
     /** Shows the superuser's password to whoever answers the security questions or has the login-credentials file. */
