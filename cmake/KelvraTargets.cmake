@@ -14,10 +14,32 @@ if(KELVRA_SANITIZE)
     target_compile_options(kelvra_options INTERFACE ${sanitizers})
     target_link_options(kelvra_options INTERFACE ${sanitizers})
 endif()
+if(WIN32)
+    # A host looks for the libraries under the contract's names, whoever compiled them.
+    set(CMAKE_SHARED_LIBRARY_PREFIX "")
+endif()
 if(NOT WIN32 AND NOT KELVRA_SANITIZE)
     # A library that forgets one of its own dependencies fails here rather than when it is loaded.
     target_link_options(kelvra_options INTERFACE $<$<STREQUAL:$<TARGET_PROPERTY:TYPE>,SHARED_LIBRARY>:-Wl,-z,defs>)
 endif()
+
+# kelvra_objects(<name> DEFINE <macro> LIBRARY <target> SOURCES ... [LINK ...])
+# What the library is made from, as an object library that a test can take instead of it. On Windows these are compiled
+# twice, as what is exported, or comes out of another DLL, is called in another way than what the program brings itself.
+function(kelvra_objects name)
+    cmake_parse_arguments(ARG "" "DEFINE;LIBRARY" "SOURCES;LINK" ${ARGN})
+    set(exported ${name})
+    if(WIN32)
+        set(exported ${name}_exported)
+        add_library(${name} OBJECT EXCLUDE_FROM_ALL ${ARG_SOURCES})
+        target_compile_definitions(${name} PUBLIC KELVRA_HOST_STATIC KELVRA_LOGIN_STATIC)
+        target_link_libraries(${name} PUBLIC kelvra_host ${ARG_LINK} PRIVATE kelvra_options)
+    endif()
+    add_library(${exported} OBJECT ${ARG_SOURCES})
+    target_compile_definitions(${exported} PRIVATE ${ARG_DEFINE})
+    target_link_libraries(${exported} PUBLIC kelvra_host ${ARG_LINK} PRIVATE kelvra_options)
+    target_link_libraries(${ARG_LIBRARY} PRIVATE ${exported})
+endfunction()
 
 # kelvra_client_library(<name> DEFINE <macro> SOURCES ... [DIALOGS ...] [LINK ...] [NEEDS ...] [HEADERS ...])
 # One of the client's libraries, under the contract's name. Its widgets and services are an object library,
@@ -34,11 +56,9 @@ function(kelvra_client_library name)
         # DIALOGS hold what would block a test: it leaves them out and links its own.
         string(REPLACE "SOURCES" "objects" suffix ${part})
         string(REPLACE "DIALOGS" "dialogs" suffix ${suffix})
-        set(objects ${name}_${suffix})
-        add_library(${objects} OBJECT ${ARG_${part}})
-        target_compile_definitions(${objects} PRIVATE ${ARG_DEFINE})
-        target_link_libraries(${objects} PUBLIC kelvra_host ${ARG_LINK} PRIVATE kelvra_options)
-        target_link_libraries(${name} PRIVATE ${objects})
+        kelvra_objects(
+            ${name}_${suffix} DEFINE ${ARG_DEFINE} LIBRARY ${name} SOURCES ${ARG_${part}} LINK ${ARG_LINK}
+        )
     endforeach()
     # Of what is linked from elsewhere only Qt shows in headers.
     set(shown ${ARG_LINK})
