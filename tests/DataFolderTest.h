@@ -9,6 +9,12 @@
 
 #include <memory>
 
+#ifdef Q_OS_WIN
+constexpr bool isWindows = true;
+#else
+constexpr bool isWindows = false;
+#endif
+
 /** What the programs share that keep a data folder. init() of each makes `dir` anew. */
 class DataFolderTest : public QObject
 {
@@ -30,8 +36,12 @@ protected:
         return all;
     }
 
-    /** Whether nobody but the owner gets at it. */
-    static bool isPrivate(const QString &path) { return QFile::exists(path) && !(QFile::permissions(path) & 0x77); }
+    /** Whether nobody but the owner gets at it; on Windows that is in access lists, which Qt does not show. */
+    static bool isPrivate(const QString &path)
+    {
+        constexpr QFile::Permissions others{isWindows ? 0 : 0x77};
+        return QFile::exists(path) && !(QFile::permissions(path) & others);
+    }
 
     static QByteArray readFile(const QString &path)
     {

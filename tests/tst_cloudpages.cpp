@@ -4,14 +4,39 @@
 #include "login/cloud/QRCodeLoginPanel.h"
 #include "login/local/NormalLoginWt.h"
 
-#include <optional>
-
 using namespace kelvra_login;
 
 namespace {
 
 const QString phone = "13912345678";
 auto &resend = kelvra_saas::SaasWorker::_instance();
+
+const QString scan = "1 Nimbra App Code scanning login";
+const QString masked = "|mask|refreshBt";
+// Black on the left, white on the right, with percent signs as a data URI may have them
+const QString picture = "data:image/x-portable-bitmap,P1%0A%23%2B%0A2%202%201%200%201%200";
+
+/**
+ * Answers the last call of its kind: "code", "result" or a status, in any order and as often as wanted; after "!" as
+ * a failure, after "?" under a foreign id.
+ */
+void answer(const QString &answers, const kelvra_saas::LoginQRCodeInfo &info = {"code", picture, 600})
+{
+    for (QString text : answers.split(' ')) {
+        const bool foreign = text.startsWith('?');
+        const int code = text.contains('!') ? 4711 : kelvra_saas::successCode;
+        const QString kind = text.remove('?').remove('!');
+        const auto give = [foreign, code](const auto call, const auto &...more) {
+            call.answer({foreign ? "foreign" : call.requestId, code, 7, QString()}, more...);
+        };
+        if (kind == "code")
+            give(host.qrCodeRequests.last(), info);
+        else if (kind == "result")
+            give(host.qrCodeResultQueries.last());
+        else
+            give(host.qrCodeStatusQueries.last(), kind.toInt());
+    }
+}
 
 } // namespace
 
@@ -30,101 +55,32 @@ private slots:
 
     void cleanup() { delete window; }
 
-    void answers_data()
+    void answers()
     {
-        QTest::addColumn<QString>("road"); // of the code that the row names, in each call's own way
         const QString lock =
             "messageAlert(Current errors:3,in the next 600 sec.,if you make another error 2 times, the "
             "account will be locked for 30 minutes)";
-        const QString loginFailed = "messageAlert(Nimbra account login failure:%1)";
-        const auto row = [](const char *call, int code, const QString &road) {
-            QTest::addRow("%s %d", call, code) << QString(road).replace("%1", QString("cloud error %1/8").arg(code));
-        };
-        row("password", 2203, lock);
-        row("password", 2231, lock);
-        row("password", 2204, loginFailed);
-        row("password", 2229,
-            "signalSaasLoginEvent(1,13912345678) messageAlert(It is currently a non secure terminal,Please log in "
-            "as a verification code)");
-        row("code", 2204, lock);
-        row("code", 2203, loginFailed.arg("invalid account"));
-        row("code", 2229, loginFailed);
-        row("code", 2231, loginFailed);
-        row("request", 7, "messageAlert(Get verificaion code failed:%1)");
-        row("request", 1001, "messageAlert(Get verificaion code failed:invalid mobile number(1001))");
-        row("account", 7, "messageAlert(Get logged in account failure:%1)");
-        row("automatic", 7, "cancelAccountAutoLogin(13912345678) messageAlert(Nimbra account auto login failure:%1)");
-    }
-
-    void answers()
-    {
-        QFETCH(QString, road);
-        const QStringList row = QString(QTest::currentDataTag()).split(' ');
-        const QString call = row[0];
-        const int code = row[1].toInt();
-        const bool login = call == "password" || call == "code";
-
-        const auto first = ask(call);
-        first.callback({"foreign", code, 8, {}});
-        // Only the account that has been scanned is taken from any answer.
-        QCOMPARE(deeds(), call == "account" ? road : QString());
-        const auto second = call == "account" ? ask(call) : first;
-        QVERIFY(!login || state("loginBt") == "Logging in... busy");
-        window->hide();
-        std::optional<Brackets> language;
-        QString meanwhile;
-        host.whileAlertIsOpen = [&] {
-            second.answer(code);
-            language.emplace();
-            meanwhile = login ? state("loginBt") + child<QLineEdit>("userName")->placeholderText() : QString();
-        };
-        second.answer(code);
-        QCOMPARE(deeds(), road);
-        QCOMPARE(host.alerts.last().first, QString("title 1"));
-        QCOMPARE(meanwhile, QString(login ? "[Logging in...] busy[Phone Number]" : ""));
-        QVERIFY(!login || state("loginBt") == "[Login]");
-        language.reset();
-
-        window->show();
-        const auto third = ask(call);
-        QVERIFY(third.requestId.size() > 30 && third.requestId != first.requestId);
-        second.answer(1000);
-        QCOMPARE(deeds(), QString());
-        third.answer(1000);
-        third.answer(1000);
-        const QString success = call == "request"
-                                    ? "messageAlert(Get verificaion code success, please check the verification code "
-                                      "on your mobile phone)"
-                                    : "addSuperUserFromSaasUser(13912345678) setCurUserInfo(2,13912345678,,0,true) " +
-                                          endOfLogin + " setValue(client_login_mode,0)";
-        QCOMPARE(deeds(), success);
-        QCOMPARE(host.alerts.last().first, QString(call == "request" ? "title 2" : "title 1"));
-        QVERIFY(!login || state("loginBt").endsWith("busy")); // the dialog moves on
-
-        for (const bool left : {false, true}) { // somebody else is in by then, or the window is closed
-            openForm();
-            const auto late = ask(call);
-            host.loginSuccess = !left;
-            window->setVisible(!left);
-            if (left)
-                emit kelvra_contact::SystemMsg::_instance().signalPrepareQuitSystem();
-            late.answer(1000);
-            QCOMPARE(deeds(), call == "request" ? success : QString());
-            host.loginSuccess = false;
+        const QString failure = "messageAlert(Nimbra account login failure:";
+        const QVector<QPair<QString, QString>> rows{
+            {"password 2203", lock},
+            {"password 2231", lock},
+            {"password 2204", failure + "cloud error 2204/8)"},
+            {"password 2229", "signalSaasLoginEvent(1,13912345678) messageAlert(It is currently a non secure "
+                              "terminal,Please log in as a verification code)"},
+            {"code 2204", lock},
+            {"code 2203", failure + "invalid account)"},
+            {"code 2229", failure + "cloud error 2229/8)"},
+            {"code 2231", failure + "cloud error 2231/8)"},
+            {"request 7", "messageAlert(Get verificaion code failed:cloud error 7/8)"},
+            {"request 1001", "messageAlert(Get verificaion code failed:invalid mobile number(1001))"},
+            {"account 7", "messageAlert(Get logged in account failure:cloud error 7/8)"},
+            {"automatic 7", "cancelAccountAutoLogin(13912345678) messageAlert(Nimbra account auto login "
+                            "failure:cloud error 7/8)"}};
+        for (const auto &[row, road] : rows) {
+            init();
+            answers(row.section(' ', 0, 0), row.section(' ', 1).toInt(), road);
+            QVERIFY2(!QTest::currentTestFailed(), qPrintable(row));
         }
-
-        openForm();
-        const auto fourth = ask(call);
-        host.whileAlertIsOpen = [this] { delete window; };
-        fourth.answer(code);
-        QVERIFY(!window);
-        openForm();
-        const auto last = ask(call);
-        delete window;
-        deeds();
-        last.answer(code);
-        last.answer(1000);
-        QCOMPARE(deeds(), QString());
     }
 
     void submissions()
@@ -134,16 +90,18 @@ private slots:
             QCOMPARE(submit(0, phone, "1234 678", key), QString("login(13912345678,1234 678,,PASSWORD)"));
             QCOMPARE(submit(1, phone, "123456", key), QString("login(13912345678,,123456,VERIFY_CODE)"));
             QCOMPARE(submit(0, phone, "1234 678", key) + submit(1, phone, "123456", key), QString());
+            const Brackets language;
+            const QString placeholder = child<QLineEdit>("userName")->placeholderText();
+            QCOMPARE(state("loginBt") + placeholder, QString("[Logging in...] busy[Phone Number]"));
         }
+        host.lastUserType = kelvra_worker::CloudUser;
+        host.recentAccount.clear();
         openForm();
+        QVERIFY(child<QLineEdit>("userName")->hasFocus());
         const QString number = "userName: Illegal mobile phone number";
-        const QString code = "verificationCode: Invalid verification code";
-        QCOMPARE(submit(0, "1391234567", ""), number);
         QCOMPARE(submit(0, phone, "1234567"), QString("pwd: Invalid password"));
-        QCOMPARE(submit(1, "", "123456"), number);
-        QCOMPARE(submit(1, phone, "12345"), code);
         QCOMPARE(submit(1, "1", ""), number);
-        QCOMPARE(submit(1, phone, "1234567"), code);
+        QCOMPARE(submit(1, phone, "1234567"), QString("verificationCode: Invalid verification code"));
         child<QLineEdit>("userName")->clear();
         click("getVerificationCodeBt");
         QCOMPARE(outcome(), number);
@@ -218,19 +176,221 @@ private slots:
         QTRY_COMPARE(host.qrCodeRequests.size(), 1);
     }
 
-    void lateAutomaticLogin()
+    void firstShowFetchesACode()
     {
-        const auto late = ask("automatic");
-        QVERIFY(child<QLineEdit>("pwd")->hasFocus());
-        host.loginSuccess = true; // somebody has logged in by hand meanwhile
-        late.answer(1000);
-        QCOMPARE(deeds(), QString());
-        host.recentAccount.clear();
-        openForm();
-        QVERIFY(child<QLineEdit>("userName")->hasFocus());
+        delete window;
+        window = page = panel = new QRCodeLoginPanel(nullptr);
+        const QMovie *movie = child<QLabel>("waitingLabel")->movie();
+        host.calls.clear();
+        for (const bool shown : {false, true, false, true}) {
+            panel->setVisible(shown);
+            QCOMPARE(movie->state(), shown ? QMovie::Running : QMovie::Paused);
+        }
+        QCOMPARE(host.calls, QStringList("getLoginQRCode()"));
+        QCOMPARE(look(), scan + "|waitingLabel");
+        answer("code", {"code", picture, 2});
+        QCOMPARE(look(), scan);
+        QCOMPARE(movie->state(), QMovie::Paused);
+        QCOMPARE(text("QRCode"), "<img src=\"" + picture + "\" width=\"220\" heigh=\"220\" />");
+        QCOMPARE(codeColour(40), QColor(Qt::black));
+        QCOMPARE(codeColour(180), QColor(Qt::white));
+        panel->setQRCodeSize(178);
+        panel->refreshQRCode();
+        answer("code", {"code", "a\"/>Call us<i b=\"", 60});
+        QVERIFY(text("QRCode").endsWith(" width=\"178\" heigh=\"178\" />"));
+        QTextDocument shown;
+        shown.setHtml(text("QRCode"));
+        QCOMPARE(shown.toPlainText(), QString(QChar::ObjectReplacementCharacter)); // an address brings no text in
+        QTRY_COMPARE(look(), "2 QR Code Invalid" + masked); // the first code's time, at the second one's cost
+    }
+
+    void panelAnswers()
+    {
+        openPanel();
+        // What comes, the look then, an alert
+        const QVector<QStringList> rows{
+            {"2001", scan, ""},
+            {"2002", "4 Scanned, confirming", ""},
+            {"2003", "2 QR Code Invalid" + masked, ""},
+            {"2005", "5 Scanned, cancel login" + masked, ""},
+            {"2006", "6 Illegal operation" + masked, ""},
+            {"2007", "7 Illegal ip" + masked, ""},
+            {"!code", "3 Get QR Code Failure" + masked, "Get login QR code failure:cloud error 4711/7"},
+            {"!2004", "8 Check Status Failure" + masked, "Check login QR code status failure:cloud error 4711/7"},
+            {"2004 !result", "0 QR Code Login Failure" + masked,
+             "Check QR code login result failure:cloud error 4711/7"}};
+        for (const QStringList &row : rows) {
+            QString duringAlert;
+            host.whileAlertIsOpen = [&] { duringAlert = look(); };
+            host.alerts.clear();
+            panel->refreshQRCode();
+            answerTwice(row[0]);
+            QCOMPARE(QStringList({row[0], look(), host.alerts.value(0).second}), row);
+            QCOMPARE(duringAlert, row[2].isEmpty() ? "" : row[1]);
+            QVERIFY(host.alerts.size() < 2 && text("QRCode").contains(picture));
+            const Brackets brackets;
+            QCOMPARE(text("QRCodeTitle"), '[' + row[1].section('|', 0, 0).mid(2) + ']');
+        }
+        QCOMPARE(codeColour(40), QColor(Qt::black)); // nothing is painted over the picture
+        host.calls.clear();
+        panel->hide();
+        panel->show();
+        QTest::qWait(1200);
+        QCOMPARE(host.calls, QStringList()); // nothing renews a refused code by itself
+        click("refreshBt");
+        QCOMPARE(host.calls, QStringList("getLoginQRCode()"));
+        QCOMPARE(look(), QString("0 QR Code Login Failure|waitingLabel"));
+        for (const char *last : {"!code", "!2001", "2004 !result"}) {
+            openPanel();
+            host.whileAlertIsOpen = [&] { delete window; };
+            answerTwice(last);
+            QVERIFY(!window);
+        }
+    }
+
+    void strayAnswers()
+    {
+        openPanel();
+        const QSignalSpy success(panel, &QRCodeLoginPanel::signalScanQRCodeLoginSuccess);
+        answer("?code ?!code");
+        QCOMPARE(look(), scan + "|waitingLabel");
+        poll();
+        answer("?2003 ?!2003");
+        QTest::qWait(1300);
+        QCOMPARE(host.qrCodeStatusQueries.size(), 1); // they have not ended the query
+        answer("2001 2001");
+        QTRY_COMPARE(host.qrCodeStatusQueries.size(), 2);
+        host.whileAlertIsOpen = [&] {
+            panel->refreshQRCode();
+            answer("code");
+            QTest::qWait(1300);
+        };
+        answer("!2001");
+        QCOMPARE(host.qrCodeStatusQueries.size(), 2); // the alert's end is the query's
+        QTRY_COMPARE(host.qrCodeStatusQueries.size(), 3);
+        host.calls.clear();
+        answer("2004 2004");
+        QTest::qWait(1200);
+        QCOMPARE(host.calls, QStringList("checkLoginQRCodeResult(code)"));
+        answer("?result ?!result");
+        QCOMPARE(success.size(), 0);
+        answer("result result !result");
+        QCOMPARE(success.size(), 1);
+        QCOMPARE(look(), scan);
+        delete window;
+        answer("!code !2003 !result");
+        QCOMPARE(host.alerts.size(), 1);
+
+        openPanel();
+        std::make_unique<QRCodeLoginPanel>(nullptr).reset(); // takes over, and is gone
+        answer("code");
+        QCOMPARE(look(), scan + "|waitingLabel");
+    }
+
+    void pollsWhileVisible()
+    {
+        openPanel();
+        for (const bool minimised : {true, false}) {
+            minimised ? panel->showMinimized() : panel->hide();
+            panel->refreshQRCode();
+            answer("code");
+            QTest::qWait(1300);
+        }
+        QVERIFY(host.qrCodeStatusQueries.isEmpty());
+        panel->showNormal();
+        QElapsedTimer clock;
+        clock.start();
+        for (int queries = 1; queries < 4; ++queries) {
+            QTRY_COMPARE(host.qrCodeStatusQueries.size(), queries);
+            answer("2001");
+        }
+        QVERIFY(clock.elapsed() > 2900);
+        panel->hide();
+        QTest::qWait(1300);
+        QCOMPARE(host.qrCodeStatusQueries.size(), 3);
+        QCOMPARE(host.qrCodeRequests.size(), 3); // none comes with the second show
+    }
+
+    void overlaysFollowTheCode()
+    {
+        openPanel();
+        const QWidget *code = child("QRCode");
+        for (const auto change :
+             {+[](QRCodeLoginPanel *p) { p->resize(600, 500); }, +[](QRCodeLoginPanel *p) { p->setQRCodeSize(178); },
+              +[](QRCodeLoginPanel *p) { p->setLayoutSpacing(450); }}) {
+            const QPoint before = code->pos();
+            change(panel);
+            QTRY_VERIFY(code->pos() != before);
+            QCOMPARE(child("waitingLabel")->geometry().center(), code->geometry().center());
+            QCOMPARE(child("refreshBt")->geometry().center(), code->geometry().center());
+            QCOMPARE(child("mask")->pos(), code->pos());
+        }
     }
 
 private:
+    // What comes of the answers to `call`, of which that of `code` does what `road` says.
+    void answers(const QString &call, int code, const QString &road)
+    {
+        const bool login = call == "password" || call == "code";
+        const auto first = ask(call);
+        first.callback({"foreign", code, 8, {}});
+        // Only the account that has been scanned is taken from any answer.
+        QCOMPARE(deeds(), call == "account" ? road : QString());
+        const auto second = call == "account" ? ask(call) : first;
+        QVERIFY(call != "automatic" || child<QLineEdit>("pwd")->hasFocus());
+        window->hide();
+        bool busy = false;
+        host.whileAlertIsOpen = [&] {
+            second.answer(code);
+            busy = login && state("loginBt") == "Logging in... busy";
+        };
+        second.answer(code);
+        QCOMPARE(deeds(), road);
+        QCOMPARE(host.alerts.last().first, QString("title 1"));
+        QVERIFY(busy == login && (!login || state("loginBt") == "Login"));
+
+        window->show();
+        const auto third = ask(call);
+        QVERIFY(third.requestId.size() > 30 && third.requestId != first.requestId);
+        second.answer(1000);
+        QCOMPARE(deeds(), QString());
+        third.answer(1000);
+        third.answer(1000);
+        const QString success = call == "request"
+                                    ? "messageAlert(Get verificaion code success, please check the verification code "
+                                      "on your mobile phone)"
+                                    : "addSuperUserFromSaasUser(13912345678) setCurUserInfo(2,13912345678,,0,true) " +
+                                          endOfLogin + " setValue(client_login_mode,0)";
+        QCOMPARE(deeds(), success);
+        QCOMPARE(host.alerts.last().first, QString(call == "request" ? "title 2" : "title 1"));
+        QVERIFY(!login || state("loginBt").endsWith("busy")); // the dialog moves on
+
+        for (const bool left : {false, true}) { // somebody else is in by then, or the window is closed
+            openForm();
+            const auto late = ask(call);
+            host.loginSuccess = !left;
+            window->setVisible(!left);
+            if (left)
+                emit kelvra_contact::SystemMsg::_instance().signalPrepareQuitSystem();
+            late.answer(1000);
+            QCOMPARE(deeds(), call == "request" ? success : QString());
+            host.loginSuccess = false;
+        }
+
+        openForm();
+        const auto fourth = ask(call);
+        host.whileAlertIsOpen = [this] { delete window; };
+        fourth.answer(code);
+        QVERIFY(!window);
+        openForm();
+        const auto last = ask(call);
+        delete window;
+        deeds();
+        last.answer(code);
+        last.answer(1000);
+        QCOMPARE(deeds(), QString());
+    }
+
     void openForm()
     {
         page = nullptr;
@@ -304,7 +464,42 @@ private:
         return host.cloudCalls.takeLast();
     }
 
-    QWidget *page = nullptr;
+    void openPanel() { open(page = panel = new QRCodeLoginPanel(nullptr)); }
+
+    /** Shows a code and waits until the panel asks what has become of it. */
+    void poll()
+    {
+        answer("code");
+        host.calls.clear();
+        QTRY_COMPARE(host.calls, QStringList("checkLoginQRCodeStatus(code)"));
+    }
+
+    /** What comes twice counts once. A code is shown first, unless it is refused. */
+    void answerTwice(const QString &answers)
+    {
+        if (answers != "!code")
+            poll();
+        answer(answers);
+        answer(answers);
+    }
+
+    /** The title's id, the title, and what lies over the code. */
+    QString look() const
+    {
+        QString look = child<QLabel>("QRCodeTitle")->property("title_id").toString() + ' ' + text("QRCodeTitle");
+        for (const char *over : {"waitingLabel", "mask", "refreshBt"})
+            look += isShown(over) ? QString("|") + over : QString();
+        return look;
+    }
+
+    /** What is seen of the code `x` pixels from its left edge, below the refresh button. */
+    QColor codeColour(int x) const
+    {
+        return panel->grab().toImage().pixelColor(child<QLabel>("QRCode")->pos() + QPoint(x, 190));
+    }
+
+    QPointer<QWidget> page;
+    QRCodeLoginPanel *panel = nullptr;
 };
 
 QTEST_MAIN(TestCloudPages)

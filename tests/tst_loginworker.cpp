@@ -1,3 +1,4 @@
+#include "DataFolderTest.h"
 #include "TestTools.h"
 #include "host/kelvra_base/BaseTools.h"
 #include "host/kelvra_contact/SystemMsg.h"
@@ -46,7 +47,7 @@ void withLimit(Resource resource, rlim_t most, const Action &action)
 
 } // namespace
 
-class TestLoginWorker : public QObject
+class TestLoginWorker : public DataFolderTest
 {
     Q_OBJECT
 
@@ -72,53 +73,37 @@ private slots:
 
     void firstScreen()
     {
+        // The screen is there before the dialog shows.
         const auto announced = [](UserType type, const QStringList &params) {
             FreshWorker().login(type, params, true);
             return deeds();
         };
-        // The screen is there before the dialog shows.
-        const QString cloud = "signalLoginEvent(0) signalSaasLoginEvent(0) show()";
-        const QString last = "signalLoginEvent(6,ann) show()";
-        QCOMPARE(announced(CloudUser, {"bob"}), cloud);
-        QCOMPARE(announced(LocalUser, {}), last);
-        QCOMPARE(announced(LocalUser, {"", "bob", "x"}), last);
-        QCOMPARE(announced(LocalUser, {"bob"}), QString("signalLoginEvent(6,bob) show()"));
-        QCOMPARE(announced(LocalUser, {"carl"}), QString("signalLoginEvent(0) show()"));
+        const QString form = "signalLoginEvent(0) show()";
+        const QString gesture = "signalLoginEvent(6,%1) show()";
+        QCOMPARE(announced(CloudUser, {"bob"}), QString("signalLoginEvent(0) signalSaasLoginEvent(0) show()"));
+        QCOMPARE(announced(LocalUser, {"", "bob", "x"}), gesture.arg("ann"));
+        QCOMPARE(announced(LocalUser, {"bob"}), gesture.arg("bob"));
+        QCOMPARE(announced(LocalUser, {"carl"}), form);
+        host.locked = true;
+        QCOMPARE(announced(LocalUser, {}), form);
+        host.lockKnown = false;
+        for (const QVariant &mode : {QVariant(1), QVariant("1"), QVariant(0), QVariant(2), QVariant()}) {
+            host.settings["client_login_mode"] = mode;
+            QCOMPARE(announced(LocalUser, {}), mode.toInt() == 1 ? gesture.arg("ann") : form);
+        }
         host.firstLogin = true;
-        QCOMPARE(announced(LocalUser, {}), QString("signalLoginEvent(7) show()"));
-        QCOMPARE(announced(CloudUser, {"bob"}), QString("signalLoginEvent(7) show()"));
+        for (const UserType type : {LocalUser, CloudUser})
+            QCOMPARE(announced(type, {"bob"}), QString("signalLoginEvent(7) show()"));
 
         FreshWorker worker;
         worker.switchUser(); // asks nothing
         QVERIFY(!worker.isAutoLoginAllowed());
-        QCOMPARE(host.calls, QStringList({"signalLoginEvent(0)", "show()"}));
-        QCOMPARE(dialogs().size(), 8);
+        QCOMPARE(host.calls.join(' '), form);
+        QCOMPARE(dialogs().size(), 13);
         for (LoginDlg *dialog : dialogs()) {
             QVERIFY(dialog->isVisible() && !dialog->isModal() && !dialog->parent());
             QCOMPARE(dialog->pos(), kelvra_base::BaseTools::defaultPos(dialog));
         }
-    }
-
-    void lockSettingAndGestureDecide()
-    {
-        QStringList byGesture;
-        for (const int lock : {-1, 0, 1}) { // -1: not to be had
-            for (const QVariant &mode : {QVariant(), QVariant(0), QVariant(1), QVariant("1"), QVariant(2)}) {
-                for (const char *gesture : {"", "012"}) {
-                    host.lockKnown = lock >= 0;
-                    host.locked = lock != 0;
-                    host.settings["client_login_mode"] = mode;
-                    host.users["ann"].gesture = gesture;
-                    FreshWorker worker;
-                    worker.login(LocalUser, {}, true);
-                    QCOMPARE(worker.isLocked(), lock == 1);
-                    QCOMPARE(host.callsOf({"getLockInfo"}).size(), lock < 0 ? 2 : 1); // asked again while unknown
-                    if (deeds().startsWith("signalLoginEvent(6,ann)"))
-                        byGesture << QString("%1 %2 %3").arg(lock).arg(mode.typeName(), gesture);
-                }
-            }
-        }
-        QCOMPARE(byGesture, QStringList({"-1 int 012", "-1 QString 012", "0 int 012", "0 QString 012"}));
     }
 
     void handedOverLocalLogin()
@@ -149,7 +134,7 @@ private slots:
     void handedOverLoginThatIsNone()
     {
         FreshWorker worker;
-        for (const UserType type : {LocalUser, CloudUser}) {
+        for (const UserType type : {CloudUser, LocalUser}) { // the end of a client is that of every worker
             for (const QStringList &params : {QStringList(), QStringList("ann"), {"ann", "pw", "pw"}, {"", "pw"}})
                 worker.login(type, params, true);
             FreshWorker().login(type, {"ann", "pw"}, true); // gone before its shot
@@ -193,38 +178,18 @@ private slots:
     {
         FreshWorker worker;
         worker.setLocked(true);
-        worker.verifyPassword("ann", "wrong");
+        QVERIFY(!worker.verifyPassword("ann", "wrong") && worker.verifyPassword("ann", "pw"));
+        QVERIFY(!worker.verifyGesture("ann", "8") && worker.verifyGesture("ann", "012"));
         deeds();
         worker.saasLoginSuccess("139", false);
         // The record is read once the account is adopted.
         QVERIFY(host.calls.indexOf("getUserInfo(139)") > host.calls.indexOf("addSuperUserFromSaasUser(139)"));
         QCOMPARE(deeds(), "addSuperUserFromSaasUser(139) setCurUserInfo(2,139,,0,false)" + endOfCloudLogin);
-        QVERIFY(worker.isLocked() && worker.failedTimes() == 1);
+        QVERIFY(worker.isLocked() && worker.failedTimes() == 2);
 
         worker.loginSuccess("ann", "typed", true);
         QCOMPARE(deeds(), localLogin("ann,typed,7", "true"));
         QVERIFY(!worker.isLocked() && worker.failedTimes() == 0);
-    }
-
-    void failuresAndLockAreKept()
-    {
-        FreshWorker worker;
-        QVERIFY(!worker.verifyPassword("ann", "no") && !worker.verifyGesture("ann", "8"));
-        QVERIFY(worker.verifyPassword("ann", "pw") && worker.verifyGesture("ann", "012"));
-        QVERIFY(!worker.verifyPassword("nobody", "") && !worker.verifyGesture("nobody", "8"));
-        deeds();
-        for (const bool answer : {true, false}) {
-            host.updatesSucceed = answer;
-            QCOMPARE(worker.setLocked(true), answer);
-            for (const int seconds : {180, 1, 0, -5})
-                QCOMPARE(worker.setLockSeconds(seconds), answer);
-            QVERIFY(worker.isLocked()); // what is left is only stored
-            QCOMPARE(worker.failedTimes(), answer ? 4 : 0);
-            QCOMPARE(worker.setLocked(false), answer);
-            QVERIFY(!worker.isLocked() && worker.failedTimes() == 0);
-            QCOMPARE(deeds(), QString("updateLockInfo(true,180) updateLockInfo(true,180) updateLockInfo(true,1) "
-                                      "updateLockInfo(false,300) updateLockInfo(false,300) updateLockInfo(false,0)"));
-        }
     }
 
     void lockIsReadWhileUnknown()
@@ -232,65 +197,43 @@ private slots:
         FreshWorker worker;
         bool locked = false;
         int seconds = 5;
-        host.locked = true;
-        host.lockSeconds = 42;
-        host.lockKnown = false;
-        worker.refreshLockInfo(locked, seconds);
-        QVERIFY(!locked && seconds == 5 && !worker.isLocked());
+        // What a reading of it gives, and what the worker then holds it for.
+        const auto read = [&](bool known, bool stored) {
+            host.lockKnown = known;
+            host.locked = stored;
+            host.lockSeconds = 42;
+            worker.refreshLockInfo(locked, seconds);
+            return QString("%1 %2 %3").arg(locked).arg(seconds).arg(worker.isLocked());
+        };
+        QCOMPARE(read(false, true), QString("0 5 0"));
         host.lockKnown = true;
         QVERIFY(worker.isLocked());
         host.locked = false;
         QVERIFY(worker.isLocked()); // known now
-        worker.refreshLockInfo(locked, seconds);
-        QVERIFY(!locked && seconds == 42 && !worker.isLocked());
-        host.locked = true;
-        worker.refreshLockInfo(locked, seconds);
-        host.lockKnown = false;
-        worker.refreshLockInfo(locked, seconds);
-        QVERIFY(locked && worker.isLocked());
-    }
-
-    void cloudLockAlert()
-    {
-        for (const int remaining : {1, 0, -1})
-            FreshWorker().showLockAlert({"139", 3, remaining, 1200, 30});
-        const QString locked = " messageAlert(The account has been locked for 30 minutes, you can unlock by Nimbra App "
-                               "forgetting password)";
-        QCOMPARE(deeds(), "messageAlert(Current errors:3,in the next 1200 sec.,if you make another error 1 times, the "
-                          "account will be locked for 30 minutes)" +
-                              locked + locked);
+        QCOMPARE(read(true, false), QString("0 42 0"));
+        QCOMPARE(read(true, true), QString("1 42 1"));
+        QCOMPARE(read(false, false), QString("1 42 1"));
     }
 
     void importedCredentials()
     {
-        // Whether the file was accepted, what the data library was asked, and the alert.
+        // What became of a file of these bytes.
         const auto import = [this](const QByteArray &content) {
-            QFile file(host.chosenFile = folder.filePath("credentials"));
-            const bool written = file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
-            file.close();
-            const bool accepted = written && FreshWorker().importLoginCredentials("root");
-            return (accepted ? "accepted " : "refused ") + deeds();
+            writeFile(host.chosenFile = folder.filePath("credentials"), content);
+            const QString outcome = FreshWorker().importLoginCredentials("root") ? "accepted " : "refused ";
+            return outcome + deeds();
         };
-        const QString asked = "checkSuperUserCredentials(root,%1)";
-        const QString refused = "messageAlert(Login credentials file is %1)";
+        const QString accepted = "accepted checkSuperUserCredentials(root,%1)";
+        const QString illegal = "refused messageAlert(Login credentials file is illegal)";
         host.credentialsValid = true;
-        QCOMPARE(import(serialised(61) + 'x'), "refused " + refused.arg("illegal"));  // 127
-        QCOMPARE(import(serialised(126) + 'x'), "refused " + refused.arg("illegal")); // 257
-        QCOMPARE(import(serialised(62)), "accepted " + asked.arg(QString(62, 'A')));
-        QCOMPARE(import(serialised(126)), "accepted " + asked.arg(QString(126, 'A')));
-        host.credentialsValid = false;
-        QCOMPARE(import(QByteArray(128, '\xff')), "refused " + asked.arg("") + ' ' + refused.arg("invalid"));
-        QCOMPARE(host.alerts.last().first, QString("title 1"));
-        host.credentialsValid = true;
+        QCOMPARE(import(serialised(61) + 'x'), illegal);  // 127
+        QCOMPARE(import(serialised(126) + 'x'), illegal); // 257
+        QCOMPARE(import(serialised(62)), accepted.arg(QString(62, 'A')));
+        QCOMPARE(import(serialised(126)), accepted.arg(QString(126, 'A')));
 #ifdef Q_OS_UNIX
-        bool accepted = true;
-        withLimit(RLIMIT_NOFILE, 0, [&] { accepted = FreshWorker().importLoginCredentials("root"); });
-        QVERIFY(!accepted);
+        withLimit(RLIMIT_NOFILE, 0, [] { FreshWorker().importLoginCredentials("root"); });
         QCOMPARE(deeds(), QString("messageAlert(Failed to open login credentials file)"));
 #endif
-        host.chosenFile = folder.filePath("missing");
-        QVERIFY(!FreshWorker().importLoginCredentials("root"));
-        QCOMPARE(deeds(), refused.arg("illegal"));
         host.chosenFile.clear(); // cancelled
         QVERIFY(!FreshWorker().importLoginCredentials("root"));
         QCOMPARE(host.calls, QStringList(QString("getOpenFileName(false,Select Login Credentials,%1,,false,0)")
@@ -299,10 +242,10 @@ private slots:
 
     void exportedCredentials()
     {
-        const QDir dir(folder.filePath("export"));
-        QVERIFY(dir.mkpath("folder"));
-        const auto written = [&dir](const QString &name) {
-            LoginAccess::_instance().exportLoginCredentials(name.isEmpty() ? name : dir.filePath(name));
+        const QDir target(folder.filePath("export"));
+        QVERIFY(target.mkpath("folder"));
+        const auto written = [&target](const QString &name) {
+            LoginAccess::_instance().exportLoginCredentials(name.isEmpty() ? name : target.filePath(name));
             return deeds();
         };
         host.credentials = QString(62, 'A');
@@ -310,22 +253,19 @@ private slots:
         const QString failed = asked + "messageAlert(Failed to export login credentials)";
 
         QCOMPARE(written({}), QString());
-        QFile file(dir.filePath("file"));
+        QFile file(target.filePath("file"));
         for (const int before : {0, 300}) { // the second time over what is there
             QVERIFY(before == 0 || file.resize(before));
             QCOMPARE(written("file"), asked + "exportLoginCredentialsLog(bob) messageAlert(Export login credentials "
                                               "success, you can get back or reset password using login credentials)");
             QCOMPARE(host.alerts.last().first, QString("title 2"));
-            QVERIFY(file.open(QIODevice::ReadOnly));
-            QCOMPARE(file.readAll(), serialised(62));
-            file.close();
+            QCOMPARE(readFile(file.fileName()), serialised(62));
         }
         for (const char *name : {"folder", "missing/file"})
             QCOMPARE(written(name), failed);
-        QCOMPARE(host.alerts.last().first, QString("title 1"));
 #ifdef Q_OS_UNIX
         // What is no file stays; a device would serve, but nobody is to lose one to a fault.
-        QCOMPARE(mkfifo(QFile::encodeName(dir.filePath("pipe")).constData(), 0600), 0);
+        QCOMPARE(mkfifo(QFile::encodeName(target.filePath("pipe")).constData(), 0600), 0);
         QCOMPARE(written("pipe"), failed);
         std::signal(SIGXFSZ, SIG_IGN); // a full disk: no file gets larger than 100 bytes
         QStringList full;
@@ -334,7 +274,7 @@ private slots:
 #endif
         host.credentials.clear();
         QCOMPARE(written("new"), failed);
-        QCOMPARE(dir.entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+        QCOMPARE(target.entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
                  QStringList({"file", "folder"}));
         QCOMPARE(file.size(), 128);
     }

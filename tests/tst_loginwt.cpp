@@ -1,7 +1,7 @@
 #include "TestTools.h"
-#include "host/kelvra_base/ComboBox.h"
 #include "login/local/LoginWt.h"
 #include "login/local/ScreenTable.h"
+#include "login/superuser/LoginMethodSelWt.h"
 
 using namespace kelvra_login;
 using ZCOMMON::PwdStrength;
@@ -22,16 +22,9 @@ ScreenTable::Screen recordedScreen(int event)
             }};
 }
 
-QWidget *createTip(QWidget *parent)
-{
-    auto *tip = new QWidget(parent);
-    tip->setObjectName("tip");
-    tip->setFixedSize(120, 31);
-    return tip;
-}
-
 } // namespace
 
+/** The router, and the page with the three methods that a first run begins with. */
 class TestLoginWt : public WindowTest
 {
     Q_OBJECT
@@ -41,11 +34,18 @@ private slots:
     {
         for (const int event : {NormalLogin, CreateSuperUser, SetSecretAnswer, VerifySecretAnswer, GestureLogin})
             ScreenTable::enter(LoginEvent(event), recordedScreen(event));
+        const auto createTip = [](QWidget *parent) {
+            auto *tip = new QWidget(parent);
+            tip->setObjectName("tip");
+            tip->setFixedSize(120, 31);
+            return tip;
+        };
         ScreenTable::enterTip({createTip, [](QWidget *, PwdStrength strength) {
                                    host.record("setStrength", {QString::number(strength)});
                                }});
         host.reset();
         host.language = 4;
+        host.customization.cloudLoginEnabled = true;
         open(new LoginWt);
     }
 
@@ -53,12 +53,16 @@ private slots:
 
     void screensAreMadeOnce()
     {
+        for (const int event : {1, 8, -3, int(LoginMethodSel)}) // there are none
+            showScreen(event, {"ann"});
+        QCOMPARE(stack()->count(), 0);
         showScreen(VerifySecretAnswer, {"ann"});
         QWidget *verify = current();
         showScreen(GestureLogin);
         QWidget *gesture = current();
         QVERIFY(verify && gesture && verify != gesture && gesture->isVisible() && !verify->isVisible());
         showScreen(VerifySecretAnswer, {"bob"});
+        showScreen(8);
         QCOMPARE(current(), verify);
         showScreen(SetSecretAnswer);
         showScreen(CreateSuperUser);
@@ -67,20 +71,6 @@ private slots:
                  QStringList({"create(5,ann)", "shown(5,alone,ann)", "create(6)", "shown(6,alone)",
                               "shown(5,alone,bob)", "create(3)", "shown(3,alone)", "create(2)",
                               "shown(2,with creation)", "shown(3,with creation)"}));
-    }
-
-    void otherEventsChangeNothing()
-    {
-        for (const bool empty : {true, false}) {
-            QWidget *before = current();
-            for (const int event : {1, 8, -3, int(LoginMethodSel)})
-                showScreen(event, {"ann"});
-            QCOMPARE(current(), before);
-            if (empty)
-                showScreen(NormalLogin);
-        }
-        QCOMPARE(host.callsOf({"create", "shown"}), QStringList({"create(0)", "shown(0,alone)"}));
-        QCOMPARE(stack()->count(), 1);
     }
 
     void earlyTipTakesTheFirstIndexForTheCreationScreen()
@@ -98,10 +88,9 @@ private slots:
     {
         showScreen(CreateSuperUser);
         strength(3, true, {760, 21});
-        QVERIFY(tip() && tip()->parent() == window && tip()->isVisible());
+        QVERIFY(tip()->isVisible());
         QCOMPARE(tip()->pos(), QPoint(640, 5)); // 21 − 15.5
         box()->raise();
-        QCOMPARE(window->childAt(700, 20), box());
         strength(2, true, {760, 10});
         QCOMPARE(window->childAt(700, 20), tip());
         QCOMPARE(tip()->pos(), QPoint(640, -5)); // toward zero, above the edge too
@@ -118,28 +107,22 @@ private slots:
         QCOMPARE(window->findChildren<QWidget *>("tip").size(), 1);
     }
 
-    void languageBox()
+    void languageBoxAndBackground()
     {
         QVERIFY(window->minimumSize() == QSize(860, 500) && window->maximumSize() == QSize(860, 500));
-        window->setFixedSize(1000, 600);
-        QCOMPARE(box()->geometry(), QRect(780, 8, 175, 24));
-        QCOMPARE(stack()->geometry(), QRect(674, 0, 300, 600));
-        QVERIFY(box()->focusPolicy() == Qt::NoFocus && box()->count() == 2);
         QCOMPARE(box()->currentText(), QString("Lingua"));
         QCOMPARE(host.calls, QStringList());
         QTest::keyClick(box(), Qt::Key_Up);
         QCOMPARE(host.calls, QStringList("setLanguage(0,true)"));
-    }
-
-    void backgroundFillsTheWidget()
-    {
-        const QImage background(":/login_images/images/img_bg_login.png");
         box()->hide();
+        const QImage background(":/login_images/images/img_bg_login.png");
         for (const QSize size : {window->size(), QSize(1000, 600)}) {
             window->setFixedSize(size);
             const QImage stretched = background.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
             QCOMPARE(window->grab().toImage().convertToFormat(stretched.format()), stretched);
         }
+        QCOMPARE(box()->geometry(), QRect(780, 8, 175, 24));
+        QCOMPARE(stack()->geometry(), QRect(674, 0, 300, 600));
     }
 
     void routerMayDieOfAnEvent()
@@ -152,11 +135,65 @@ private slots:
         QCOMPARE(second.findChild<QStackedWidget *>()->count(), 1);
     }
 
+    void methods()
+    {
+        open(new LoginMethodSelWt(nullptr));
+        const Brackets brackets;
+        QStringList texts;
+        for (const auto *label : window->findChildren<QLabel *>())
+            texts << label->text();
+        QCOMPARE(texts, QStringList({"[Welcome to login]", "[Use Default Superuser]",
+                                     "[User:admin Password:468024, low security]", "[Create New Superuser]",
+                                     "[Customize user and password, high security]", "[Login Nimbra App User]",
+                                     "[Login via phone number or scan QR code]"}));
+        QList<QImage> pictures;
+        for (auto *button : window->findChildren<QPushButton *>()) {
+            for (const QPoint &pointer : {QPoint(-1, -1), QPoint(9, 9)}) {
+                QTest::mouseMove(button, pointer);
+                const QImage picture = button->grab(QRect(0, 0, 50, 54)).toImage(); // left of the texts
+                QVERIFY(!pictures.contains(picture));
+                pictures << picture;
+            }
+            QVERIFY(button->size() == QSize(275, 54) && button->focusPolicy() == Qt::NoFocus);
+        }
+        QCOMPARE(pictures.size(), 6);
+        const int top = child("defaultUserBt")->y();
+        host.customization.cloudLoginEnabled = false;
+        open(new LoginMethodSelWt(nullptr));
+        QCOMPARE(child("defaultUserBt")->y(), top + 54);
+        QCOMPARE(child("newUserBt")->y(), top + 54 + 80);
+        QVERIFY(isShown("newUserBt") && !isShown("saasUserBt"));
+    }
+
+    void methodChoices()
+    {
+        const auto choose = [this](const char *button) {
+            click(button);
+            return deeds();
+        };
+        open(new LoginMethodSelWt(nullptr));
+        QCOMPARE(choose("newUserBt"), QString("signalLoginEvent(2) updateLoginEnvironment()"));
+        QCOMPARE(choose("saasUserBt"), QString("signalLoginEvent(0) signalSaasLoginEvent(0) "
+                                               "setLastLoggedInUserType(2) updateLoginEnvironment()"));
+        QCOMPARE(choose("defaultUserBt"), QString("addSuperUser(admin) signalLoginEvent(0,admin,468024) "
+                                                  "fillIn(admin,468024) updateLoginEnvironment()"));
+        const auto &added = host.addedSuperUser;
+        QCOMPARE(QStringList({added.password, added.answer1, added.answer2, added.answer3, added.displayName}),
+                 QStringList({"468024", "468024", "468024", "468024", ""}));
+        QCOMPARE(QList<int>({added.role, added.id, added.question1, added.question2, added.question3}),
+                 QList<int>({0, -1, 0, 1, 2}));
+        host.addSuperUserSucceeds = false;
+        host.whileAlertIsOpen = [this] { delete window; };
+        QCOMPARE(choose("defaultUserBt"), QString("addSuperUser(admin) messageAlert(Local default superuser is not "
+                                                  "available) updateLoginEnvironment()"));
+        QVERIFY(!window && host.alerts.first().first == "title 1");
+    }
+
 private:
     QStackedWidget *stack() const { return child<QStackedWidget>("stackedWidget"); }
     QWidget *current() const { return stack()->currentWidget(); }
     QWidget *tip() const { return child("tip"); }
-    kelvra_base::ComboBox *box() const { return window->findChild<kelvra_base::ComboBox *>(); }
+    QComboBox *box() const { return child<QComboBox>("languageBox"); }
 
     void strength(int grade, bool visible, const QPoint &pos) const
     {

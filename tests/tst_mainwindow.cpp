@@ -1,19 +1,26 @@
 #include "client/kelvra_data/Store.h"
 #include "client/kelvra_data/UserAdmin.h"
+#include "client/kelvra_saas/SaasSetup.h"
 #include "client/kelvra_worker/AuditTrail.h"
+#include "client/shell/CloudSide.h"
 #include "client/shell/MainWindow.h"
+#include "host/ZCommon/MoveableDialog.h"
 #include "host/kelvra_contact/SystemMsg.h"
 #include "host/kelvra_data/UserData.h"
+#include "host/kelvra_saas/LoginWorker.h"
 #include "host/kelvra_worker/LoginLogs.h"
 #include "host/kelvra_worker/SysLanguage.h"
 #include "host/kelvra_worker/SystemWorker.h"
+#include "login/frame/LoginInit.h"
 #include "tests/DataFolderTest.h"
 #include "tests/WindowParts.h"
 
 #include <array>
 
 using namespace kelvra_data;
+using namespace kelvra_saas;
 using namespace kelvra_worker;
+using kelvra_client::CloudSide;
 using kelvra_client::MainWindow;
 using kelvra_client::SessionInfo;
 using kelvra_contact::SystemMsg;
@@ -39,36 +46,16 @@ QStringList auditEvents()
     return events;
 }
 
-void clickHeader(QTableView *table, int section)
+/** Enters texts into the fields of these names and presses Return; the error then, and the field with the focus. */
+QString entered(const QDialog *dialog, const QVector<QPair<const char *, QString>> &texts)
 {
-    QHeaderView *header = table->horizontalHeader();
-    const QPoint place(header->sectionViewportPosition(section) + 5, header->height() / 2);
-    QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, place);
-}
-
-void fill(const QDialog *dialog, const char *field, const QString &text)
-{
-    auto *edit = dialog->findChild<QLineEdit *>(field);
-    edit->clear();
-    QTest::keyClicks(edit, text);
-}
-
-/** Fills the two password fields and presses Return. */
-void enterPwd(const QDialog *dialog, const QString &password, const QString &confirmed)
-{
-    fill(dialog, "newPwd", password);
-    fill(dialog, "confirmPwd", confirmed);
+    for (const auto &[field, text] : texts) {
+        auto *edit = dialog->findChild<QLineEdit *>(field);
+        edit->clear();
+        QTest::keyClicks(edit, text);
+    }
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-}
-
-QString focus()
-{
-    return QApplication::focusWidget()->objectName();
-}
-
-QString errorOf(const QDialog *dialog)
-{
-    return dialog->findChild<QLabel *>("error")->text();
+    return dialog->findChild<QLabel *>("error")->text() + '@' + dialog->focusWidget()->objectName();
 }
 
 } // namespace
@@ -110,22 +97,17 @@ private slots:
             {"eve", "a b", "The password" + letters},
             {"eve", QString(17, 'p'), "The password must not be longer than 16 characters."}};
         const QPointer<QDialog> add = openDialog("addUserBt");
-        QCOMPARE(focus(), QString("userName"));
+        const auto enter = [&add](const QString &name, const QString &password) {
+            return entered(add, {{"userName", name}, {"newPwd", password}, {"confirmPwd", password}});
+        };
         for (const auto &[name, password, sentence] : refusals) {
-            fill(add, "userName", name);
-            enterPwd(add, password, password);
-            QCOMPARE(errorOf(add), sentence);
-            QCOMPARE(focus(), QString(sentence.contains("name") ? "userName" : "newPwd"));
-            SysLanguage::_instance().setLanguage(Language(1), false);
-            QTRY_VERIFY(!errorOf(add).isEmpty() && errorOf(add) != sentence);
-            SysLanguage::_instance().setLanguage(Language(0), false);
+            QCOMPARE(enter(name, password), sentence + (sentence.contains("name") ? "@userName" : "@newPwd"));
             QTest::keyClicks(QApplication::focusWidget(), "x"); // typing on takes the sentence away
-            QCOMPARE(errorOf(add), QString());
+            QCOMPARE(add->findChild<QLabel *>("error")->text(), QString());
         }
         QVERIFY(admin.users().size() == 1 && auditEvents().isEmpty());
         const QString longest(64, 'n');
-        fill(add, "userName", longest);
-        enterPwd(add, "0123456789abcdef", "0123456789abcdef");
+        enter(longest, "0123456789abcdef");
         QTRY_VERIFY(!add);
         QVERIFY(users.verifyUserPassword(longest, "0123456789abcdef") && !users.isSuperUser(longest));
         QCOMPARE(column(child<QTableView>("usersTable"), 0), QStringList({"bob", longest}));
@@ -137,8 +119,7 @@ private slots:
             QCOMPARE(admin.remove(name), UserAdmin::NoSuchUser);
             QCOMPARE(admin.setPassword(name, "changed"), UserAdmin::NoSuchUser);
         }
-        QVERIFY(users.verifyUserPassword("root", "468024"));
-        QVERIFY(users.updateUserLoginRecord("bob", true));
+        QVERIFY(users.verifyUserPassword("root", "468024") && users.updateUserLoginRecord("bob", true));
         QCOMPARE(admin.remove("bob"), UserAdmin::Done);
         QVERIFY(users.getLastLoggedLocalUser().isEmpty() && users.isSuperUserExist(SuperUserRole));
         Store::_instance().close();
@@ -149,81 +130,60 @@ private slots:
     void superUserIsReplacedAsAWhole()
     {
         QVERIFY(users.updateUserGesture("bob", "0124") && users.updateUserLoginRecord("bob", true));
-        QVERIFY(users.updateLockInfo(true, 99));
-        QVERIFY(!users.addSuperUser(superUser("ada", "468024")) && users.isSuperUser("root"));
-
+        QVERIFY(users.updateLockInfo(true, 99) && !users.addSuperUser(superUser("ada", "468024")));
         Store::_instance().setSuperUserReplaceable(true);
-        QVERIFY(!users.addSuperUser(superUser("13800001111", "468024")));
-        QVERIFY(users.isSuperUser("root") && users.verifyUserGesture("bob", "0124"));
-        QVERIFY(users.getLastLoggedLocalUser() == "bob" && auditEvents().isEmpty());
-        bool locked = false;
-        int seconds = 0;
-        QVERIFY(users.getLockInfo(locked, seconds) && locked && seconds == 99);
-
-        QVERIFY(users.addSuperUser(superUser("ada", "468024")));
-        QCOMPARE(users.getSuperUserInfo({}).userName, QString("ada"));
+        QVERIFY(!users.addSuperUser(superUser("13800001111", "468024")) && users.verifyUserGesture("bob", "0124"));
+        QVERIFY(users.isSuperUser("root") && users.getLastLoggedLocalUser() == "bob" && auditEvents().isEmpty());
+        QVERIFY(Store::_instance().holds("SELECT locked = 1 AND lock_seconds = 99 FROM state"));
+        QVERIFY(users.addSuperUser(superUser("ada", "468024")) && users.getSuperUserInfo({}).userName == "ada");
         QVERIFY(!users.isUserExist("root") && !users.isUserExist("bob") && users.isUserExist("13800001111"));
         QVERIFY(users.getLastLoggedLocalUser().isEmpty());
-        QVERIFY(users.getLockInfo(locked, seconds) && !locked && seconds == 0);
+        QVERIFY(Store::_instance().holds("SELECT locked = 0 AND lock_seconds = 0 FROM state"));
         QCOMPARE(auditEvents(), QStringList("superuser replaced root"));
     }
 
-    void removalIsAskedBack()
+    void somebodyElseMayBeQuicker()
     {
         QVERIFY(!child("removeUserBt")->isEnabled());
-        for (const char *button : {"cancelBt", "okBt"}) {
-            select("bob");
-            const QPointer<QDialog> alert = openDialog("removeUserBt");
-            QVERIFY(users.isUserExist("bob"));
-            QTest::mouseClick(alert->findChild<QPushButton *>(button), Qt::LeftButton);
-            QTRY_VERIFY(!alert);
-        }
-        QVERIFY(!users.isUserExist("bob") && !child("setPwdBt")->isEnabled());
-        QCOMPARE(auditEvents(), QStringList("remove user bob"));
-
-        // Somebody else may be quicker.
-        QCOMPARE(admin.add("eve", "pw"), UserAdmin::Done);
-        window->loadUsers();
-        select("eve");
+        child<QTableView>("usersTable")->selectRow(0);
+        const QPointer<QDialog> alert = openDialog("removeUserBt");
+        QTest::mouseClick(alert->findChild<QPushButton *>("cancelBt"), Qt::LeftButton);
+        QTRY_VERIFY(!alert);
         const QPointer<QDialog> set = openDialog("setPwdBt");
-        QCOMPARE(focus(), QString("newPwd"));
-        QCOMPARE(admin.remove("eve"), UserAdmin::Done);
-        enterPwd(set, "pw", "pw");
-        QCOMPARE(errorOf(set), QString("This user no longer exists."));
+        QCOMPARE(QApplication::focusWidget()->objectName(), QString("newPwd"));
+        QCOMPARE(admin.remove("bob"), UserAdmin::Done);
+        QCOMPARE(entered(set, {{"newPwd", "pw"}, {"confirmPwd", "pw"}}), QString("This user no longer exists.@newPwd"));
         QTest::keyClick(set, Qt::Key_Escape);
         QTRY_COMPARE(child<QTableView>("usersTable")->model()->rowCount(), 0);
+        QVERIFY(!child("setPwdBt")->isEnabled() && auditEvents().isEmpty());
     }
 
-    void ordinaryUserIsOnlyTold()
-    {
-        showWindowFor("bob");
-        QCOMPARE(text("currentUser"), QString("bob"));
-        for (const char *name : {"addUserBt", "setPwdBt", "removeUserBt", "usersTable"})
-            QVERIFY2(!isShown(name), name);
-        QVERIFY(isShown("usersNote") && text("usersNote").contains("root"));
-
-        QCOMPARE(admin.remove("bob"), UserAdmin::Done);
-        AuditTrail::_instance().write(AuditEvent::RemoveUser, "bob");
-        QCOMPARE(text("currentRole"), QString("This user has been removed"));
-    }
-
-    void onlySuperUsersGetAtThePassword()
+    void everybodyIsOfferedTheirOwn()
     {
         const auto offered = [this](const QString &user) {
             showWindowFor(user);
-            return isShown("getbackPwdBt") + isShown("exportCredentialsBt");
+            QStringList shown;
+            for (const char *part : {"addUserBt", "setPwdBt", "removeUserBt", "usersTable", "usersNote", "getbackPwdBt",
+                                     "exportCredentialsBt"})
+                shown += isShown(part) ? QStringList(part) : QStringList();
+            return shown.join(' ');
         };
-        QCOMPARE(offered("root"), 2);
-        QCOMPARE(offered("13800001111"), 2);
-        QCOMPARE(offered("bob"), 0);
+        const QString users = "addUserBt setPwdBt removeUserBt usersTable";
+        QCOMPARE(offered("root"), users + " getbackPwdBt exportCredentialsBt");
+        QCOMPARE(offered("13800001111"), users + " getbackPwdBt exportCredentialsBt");
+        QCOMPARE(offered("bob"), QString("usersNote"));
+        QVERIFY(text("usersNote").contains("root") && text("currentUser") == "bob");
+        QCOMPARE(admin.remove("bob"), UserAdmin::Done);
+        AuditTrail::_instance().write(AuditEvent::RemoveUser, "bob");
+        QCOMPARE(text("currentRole"), QString("This user has been removed"));
         // An account alone has no password here.
         QVERIFY(Store::_instance().change("DELETE FROM users WHERE name = 'root'"));
-        QCOMPARE(offered("13800001111"), 0);
+        QCOMPARE(offered("13800001111"), users);
     }
 
     void gestureOfAnotherIsManaged()
     {
-        select("bob");
+        child<QTableView>("usersTable")->selectRow(0);
         QTimer::singleShot(0, window.get(), [] {
             auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
             const auto closed = qScopeGuard([dialog] { dialog->reject(); });
@@ -264,17 +224,24 @@ private slots:
         LoginLogs::_instance().loginFailureLog("bob", 0);
         QCOMPARE(column(table, 2), QStringList({"bob", "amy", "zoe"}));
         QCOMPARE(column(table, 3), QStringList({"by password", "by gesture", "for 180 seconds"}));
-        clickHeader(table, 2);
+        table->sortByColumn(2, Qt::AscendingOrder);
         QCOMPARE(column(table, 2), QStringList({"amy", "bob", "zoe"}));
         LoginLogs::_instance().addGestureLog("ben");
         QCOMPARE(column(table, 2), QStringList({"amy", "ben", "bob", "zoe"}));
-        clickHeader(table, 0);
+        table->sortByColumn(0, Qt::AscendingOrder);
         QCOMPARE(column(table, 2), QStringList({"zoe", "amy", "bob", "ben"}));
 
         QVERIFY(users.userAutoLoginCtrl("root", true));
         QCOMPARE(text("autoLogin"), QString("By hand"));
         LoginLogs::_instance().openAutoLoginLog("root");
         QCOMPARE(text("autoLogin"), QString("Automatic"));
+
+        auto *box = child<QComboBox>("languageBox");
+        QTest::keyClick(box, Qt::Key_Down);
+        QTRY_COMPARE(table->model()->headerData(0, Qt::Horizontal).toString(), QString("时间"));
+        QCOMPARE(column(table, 1)[2], QString("登录失败"));
+        SysLanguage::_instance().setLanguage(Language(0), false);
+        QTRY_COMPARE(box->currentText(), QString("English"));
     }
 
     void auditLogStaysInPlaceAndBounded()
@@ -299,20 +266,6 @@ private slots:
         QCOMPARE(table->model()->rowCount(), 1000);
     }
 
-    void languageIsFollowed()
-    {
-        auto *box = child<QComboBox>("languageBox");
-        const auto *table = child<QTableView>("auditTable");
-        LoginLogs::_instance().loginFailureLog("bob", 0);
-        QTest::keyClick(box, Qt::Key_Down);
-        QTRY_COMPARE(text("addUserBt"), QString("添加用户"));
-        QCOMPARE(table->model()->index(0, 1).data().toString(), QString("登录失败"));
-        QCOMPARE(table->model()->headerData(0, Qt::Horizontal).toString(), QString("时间"));
-        SysLanguage::_instance().setLanguage(Language(0), false);
-        QTRY_COMPARE(box->currentText(), QString("English"));
-        QCOMPARE(text("currentRole"), QString("Superuser"));
-    }
-
     void closingQuitsOnce()
     {
         QStringList heard;
@@ -320,19 +273,84 @@ private slots:
         const SystemMsg *msg = &SystemMsg::_instance();
         connect(msg, &SystemMsg::signalPrepareQuitSystem, &listener, [&] { heard << "prepare"; });
         connect(msg, &SystemMsg::signalQuitSystem, &listener, [&] { heard << "quit"; });
-        connect(window.get(), &MainWindow::signalSwitchUser, &listener, [&] { heard << "switch"; });
-        connect(window.get(), &MainWindow::signalShowPhone, &listener, [&] { heard << "phone"; });
-        QVERIFY(!isShown("phoneBt"));
-        window->offerPhone(true);
-        click("phoneBt");
-        click("switchUserBt");
         click("quitBt");
         window->close();
-        QCOMPARE(heard, QStringList({"phone", "switch", "prepare", "quit"}));
+        QCOMPARE(heard, QStringList({"prepare", "quit"}));
+    }
+
+    void phoneStandsBesideTheLogin()
+    {
+        auto side = std::make_unique<CloudSide>();
+        side->open(at());
+        ZCOMMON::MoveableDialog login(nullptr, QString(), Qt::black);
+        login.resize(300, 200);
+        login.show();
+        QVERIFY(QTest::qWaitForWindowActive(&login));
+        side->accompanyLogin();
+        for (QWidget *shown : QApplication::topLevelWidgets()) {
+            if (shown->objectName() == "PhoneWindow")
+                phone = shown;
+        }
+        // The login makes room where it has to, and keeps the keys.
+        QVERIFY(phone && phone->isVisible() && !phone->geometry().intersects(login.geometry()));
+        QVERIFY(phone->geometry().right() <= phone->screen()->availableGeometry().right());
+        QTRY_COMPARE(QApplication::activeWindow(), &login);
+        QVERIFY(!isShown("copyCodeBt") && !isShown("lockRow") && !isShown("scanBt") && !isShown("refuseBt"));
+
+        // A message logs in; what an automatic login needs goes when its user does not want one.
+        QVERIFY(users.addSuperUserFromSaasUser(ada));
+        for (const bool automatic : {true, false}) {
+            QTest::keyClick(phone, Qt::Key_Escape);
+            QCOMPARE(ask(sendCodeOperation, {{accountField, ada}}), 1000);
+            QVERIFY(phone->isVisible() && QStringList({"5:00 left", "4:59 left"}).contains(text("smsLeft")));
+            const QString code = text("smsCode").remove(' ');
+            QVERIFY(code.size() == 6 && text("smsText").contains(code));
+            int result = 0;
+            LoginWorker::_instance().login({"id", ada, {}, code, "VERIFY_CODE"},
+                                           [&](const Response &response, const auto &) { result = response.code; });
+            QTRY_COMPARE(result, 1000);
+            SystemWorker::_instance().setCurUserInfo(CloudUser, ada, {}, 0, automatic);
+            CloudSide::settleAutoLogin(ada);
+            QVERIFY(CloudSide::isAutoLoginStored() == automatic && SaasSetup::isAutoLoginStored(ada) == automatic);
+        }
+
+        QCOMPARE(ask(qrCodeOperation), 1000);
+        click("scanBt");
+        QVERIFY(!isShown("scanBt") && isShown("confirmScanBt") && !isShown("refuseRow"));
+        click("refuseBt");
+        click("refuseOperationBt");
+        QVERIFY(!isShown("refuseRow") && !isShown("confirmScanBt"));
+        QCOMPARE(SaasSetup::simulation()->codeOnShow().status, int(LoginWorker::QRCodeIllegalOperation));
+
+        writeFile(at("cloud_accounts.ini"), "[13800000001]\npassword=short\n");
+        click("reloadAccountsBt");
+        QVERIFY(text("accountsProblem").contains("Line 2") && text("accountPhone") == ada);
+        writeFile(at("cloud_accounts.ini"), "[18812345678]\npassword=longenough\n");
+        click("reloadAccountsBt");
+        QVERIFY(!isShown("accountsProblem") && text("accountPhone") == "18812345678");
+        side.reset();
+        QVERIFY(!phone);
+    }
+
+    void moduleAddsItsStyleSheet()
+    {
+        const QString own = "QLabel{color:red}\n";
+        qApp->setStyleSheet(own);
+        static_cast<kelvra_base::ModuleInitialization &>(kelvra_login::LoginInit::_instance()).init();
+        QVERIFY(qApp->styleSheet().startsWith(own) && qApp->styleSheet().size() > 2 * own.size());
     }
 
 private:
-    QWidget *root() const override { return window.get(); }
+    /** The code of what the cloud answers to another computer. */
+    static int ask(const char *operation, QVariantMap fields = {})
+    {
+        int code = 0;
+        fields.insert(terminalField, "other");
+        SaasSetup::simulation()->send({"id", operation, fields}, [&](const CloudAnswer &given) { code = given.code; });
+        return QTest::qWaitFor([&] { return code != 0; }) ? code : -1;
+    }
+
+    QWidget *root() const override { return phone ? phone.data() : window.get(); }
 
     QDialog *openDialog(const char *button) const
     {
@@ -345,25 +363,16 @@ private:
     {
         SystemWorker::_instance().setCurUserInfo(type, user, {}, 0, autoLogin);
         window = std::make_unique<MainWindow>();
-        SessionInfo session;
-        session.user = user;
-        session.type = type;
-        session.since = QDateTime::currentDateTime();
-        window->setSession(session);
+        window->setSession({user, type, SessionInfo::PasswordMethod, QDateTime::currentDateTime()});
         window->loadUsers();
         window->loadAuditLog();
         window->show();
         QVERIFY(QTest::qWaitForWindowActive(window.get()));
     }
 
-    void select(const QString &user) const
-    {
-        auto *table = child<QTableView>("usersTable");
-        const QModelIndex index = table->model()->index(column(table, 0).indexOf(user), 0);
-        QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, table->visualRect(index).center());
-    }
-
+    const QString ada = QStringLiteral("13800000001"); // an account of the simulated cloud
     std::unique_ptr<MainWindow> window;
+    QPointer<QWidget> phone;
 };
 
 QTEST_MAIN(TestMainWindow)

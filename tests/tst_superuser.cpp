@@ -1,8 +1,11 @@
 #include "TestTools.h"
 #include "host/kelvra_base/ComboBox.h"
+#include "login/frame/LoginAccess.h"
+#include "login/frame/LoginWorker.h"
 #include "login/frame/Screens.h"
 #include "login/local/PwdTipWt.h"
-#include "login/superuser/CreateSuperUserWt.h"
+#include "login/superuser/GetbackPwdDlg.h"
+#include "login/superuser/VerifySecretAnswerWt.h"
 
 using namespace kelvra_login;
 using kelvra_base::ComboBox;
@@ -10,24 +13,14 @@ using kelvra_base::ComboBox;
 namespace {
 
 const QString good = "abcd1234";
-const QString emptyName = "userWt: User name can not be empty or be all blank!";
 const QStringList fields = {"userWt", "inputPwdWt", "confirmPwdWt"};
 const QStringList boxes = {"question_1", "question_2", "question_3"};
 const QStringList answers = {"answer_1", "answer_2", "answer_3"};
-
-/** The marks of the rules in their order, those of broken rules in brackets. */
-QString rules(const PwdTipWt *tip)
-{
-    QString found;
-    for (const QString rule : {"tooSimple", "lessThan8", "similarToName"}) {
-        const bool white = tip->findChild<QWidget *>(rule + "Wt")->styleSheet().startsWith("QLabel{color:#ffffff;");
-        found += QString(white ? "[%1]" : "%1").arg(tip->findChild<QLabel *>(rule + "Flag")->text());
-    }
-    return found;
-}
+constexpr int getBackPwd = -1; // the dialog, which is none of the login screens
 
 } // namespace
 
+/** The superuser's pages and dialog; of the others' pages only that they follow the language. */
 class TestSuperUser : public WindowTest
 {
     Q_OBJECT
@@ -37,7 +30,7 @@ private slots:
     {
         enterScreens();
         const auto rate = [this](int strength, bool visible) {
-            ratings << QString::number(strength) + (visible ? " shown" : " hidden");
+            rating = QString::number(strength) + (visible ? " shown" : " hidden");
         };
         connect(&LoginSignals::_instance(), &LoginSignals::signalPwdStrength, this, rate);
     }
@@ -45,48 +38,34 @@ private slots:
     void init()
     {
         resetHost();
-        newDialog(CreateSuperUser);
+        host.superUser = {"root", "roots", 0, 3, "", "", 70, 0, 110, "one", "two", "three"};
+        newScreen(CreateSuperUser);
     }
 
     void cleanup() { delete window; }
 
-    void rating()
-    {
-        const QStringList marks{"[·][·]√", "√√[·]", "[·]√√", "√√√"}; // by class
-        const QMap<QString, int> classes{{"user123", 0}, {"user1234", 1}, {"4321resu", 1}, {"abcdefgh", 2}, {good, 3}};
-        for (const QString &password : classes.keys()) {
-            const QString refused = classes[password] == 3 ? "" : "inputPwdWt: Illegal password!";
-            newDialog(CreateSuperUser);
-            QCOMPARE(submit("user1234", password, password), refused);
-            QCOMPARE(password + rules(tip()), password + marks.at(classes[password]));
-            newDialog(ResetSuperUserPwd, {"user1234"});
-            QCOMPARE(submit("", password, password), refused);
-            QCOMPARE(ratings.last(), QString("%1 hidden").arg(classes[password]));
-        }
-    }
-
     void tipComesAndGoes()
     {
-        ratings.clear();
-        type("userWt", "us");
-        QCOMPARE(ratings, QStringList({"0 hidden", "0 hidden"}));
-        edit("inputPwdWt")->setFocus();
-        QCOMPARE(ratings.last(), QString("0 shown"));
+        const auto after = [this](const QString &field, const QString &typed) {
+            type(field, typed);
+            return rating + (tip()->isVisible() ? " seen" : "");
+        };
+        QCOMPARE(after("userWt", "us"), QString("0 hidden"));
+        QCOMPARE(after("inputPwdWt", ""), QString("0 shown seen"));
+        for (const QString rule : {"lessThan8", "similarToName"}) { // the first one is broken
+            const bool white = tip()->findChild<QWidget *>(rule + "Wt")->styleSheet().contains("color:#ffffff;");
+            QCOMPARE(white, rule == "lessThan8");
+        }
         const QPoint leftMiddle = child("inputPwdWt")->mapTo(tip()->parentWidget(), QPoint(0, 17));
         QCOMPARE(tip()->geometry(), QRect(leftMiddle - QPoint(365, 69), QSize(365, 138)));
         QImage drawn(tip()->size(), QImage::Format_ARGB32_Premultiplied);
         drawn.fill(Qt::transparent);
         tip()->render(&drawn, {}, {}, {});
         QCOMPARE(drawn, QImage(":/login_images/images/pwd_tip.png").convertToFormat(drawn.format()));
-        ratings.clear();
-        type("confirmPwdWt", "x");
-        QVERIFY(ratings == QStringList("0 hidden") && !tip()->isVisible());
-        type("inputPwdWt", "user1234");
-        QVERIFY(ratings.last() == "3 shown" && tip()->isVisible());
-        type("userWt", "er1234");
-        QVERIFY(ratings.last() == "1 hidden" && !tip()->isVisible());
-        edit("inputPwdWt")->setFocus();
-        QVERIFY(tip()->isVisible());
+        QCOMPARE(after("confirmPwdWt", "x"), QString("0 hidden"));
+        QCOMPARE(after("inputPwdWt", "user1234"), QString("3 shown seen"));
+        QCOMPARE(after("userWt", "er1234"), QString("1 hidden"));
+        QCOMPARE(after("inputPwdWt", ""), QString("1 shown seen"));
         showScreen(SetSecretAnswer);
         QVERIFY(!tip()->isVisible());
     }
@@ -105,21 +84,13 @@ private slots:
 
     void creation()
     {
-        QCOMPARE(submit("  ", "abc", "x"), emptyName);
+        QCOMPARE(submit("  ", "abc", "x"), QString("userWt: User name can not be empty or be all blank!"));
         QCOMPARE(submit("root", "abc", "x"), QString("userWt: User name already exists!"));
         QCOMPARE(submit("me", "abc", "x"), QString("inputPwdWt: Illegal password!"));
         QCOMPARE(submit("me", good, "x"), QString("confirmPwdWt: The two passwords are not the same!"));
-        QCOMPARE(deeds(), QString());
-        const auto *page = qobject_cast<CreateSuperUserWt *>(child("label")->parentWidget());
-        QCOMPARE(page->getSuperUserInfo().remark, QString("me")); // the further text that goes no further
         handOver();
         QCOMPARE(deeds(), QString("signalLoginEvent(3)"));
-        for (int missing = 2; missing >= 0; --missing) { // the first one that is missing counts
-            fillAnswers();
-            for (int i = missing; i < 3; ++i)
-                edit(answers[i])->setText("  ");
-            QCOMPARE(press("loginBt"), answers[missing] + ": answer can not be empty or be all blank!");
-        }
+        QCOMPARE(missingAnswers("loginBt"), QString("123"));
         for (int changed = 0; changed < 3; ++changed) {
             fillAnswers();
             QCOMPARE(child<ComboBox>(boxes[changed])->currentText(), QString("question %1").arg(40 * changed));
@@ -129,7 +100,6 @@ private slots:
         }
         QCOMPARE(child<ComboBox>("question_3")->itemData(2, Qt::ToolTipRole).toString(), QString("question 20"));
         fillAnswers();
-        QCOMPARE(deeds(), QString());
         QCOMPARE(press("loginBt"), QString());
         QCOMPARE(deeds(), "addSuperUser(me) createUserLog(me) " + localLogin("me,abcd1234,0", "true"));
         const auto &added = host.addedSuperUser;
@@ -160,9 +130,7 @@ private slots:
 
     void reset()
     {
-        newDialog(ResetSuperUserPwd, {""});
-        QCOMPARE(submit("", "abc", "x"), emptyName);
-        newDialog(ResetSuperUserPwd, {"root"});
+        newScreen(ResetSuperUserPwd);
         QVERIFY(!edit("userWt")->isEnabled() && edit("userWt")->text() == "root");
         QCOMPARE(child("userWt")->grab().toImage().pixelColor(8, 8), QColor("#253141"));
         QCOMPARE(submit("", "abc", "x"), QString("inputPwdWt: Illegal password!"));
@@ -170,7 +138,7 @@ private slots:
         child<QCheckBox>("autoLogin")->click();
         submit("", good, good);
         QCOMPARE(deeds(), "resetUserPwd(root,abcd1234) resetUserPwdLog(root) " + localLogin("root,abcd1234,0", "true"));
-        newDialog(ResetSuperUserPwd, {"root"});
+        newScreen(ResetSuperUserPwd);
         host.resetUserPwdSucceeds = false;
         host.whileAlertIsOpen = [this] { delete window; };
         submit("", good, good);
@@ -178,37 +146,143 @@ private slots:
         QCOMPARE(host.alerts.last().first, QString("title 0"));
     }
 
+    void recovery()
+    {
+        QTemporaryFile file;
+        QVERIFY(file.open() && file.write(QByteArray(128, 0)) == 128 && file.flush()); // an empty text
+        host.currentUser = "ann";
+        for (const int screen : {int(VerifySecretAnswer), getBackPwd}) {
+            const auto reopen = [this, screen] { newScreen(screen, "ann"); };
+            // The page asks for the user it was made for, the dialog for the host's superuser.
+            const bool page = screen == VerifySecretAnswer;
+            const QString granted = page ? " signalLoginEvent(4,ann)" : " getbackPwdLog(root)";
+            const QString asked = page ? "(ann," : "(root,";
+            const QString button = page ? "okBt" : "operBt";
+
+            reopen();
+            if (page) { // it goes with the link
+                QTest::mouseClick(child("forgotAllBt"), Qt::RightButton);
+                QTest::mousePress(child("forgotAllBt"), Qt::LeftButton);
+                QCOMPARE(deeds(), QString("signalLoginEvent(2)"));
+            }
+            reopen();
+            QCOMPARE(edit(boxes[0])->text() + edit(boxes[1])->text(), QString("question 70question 0"));
+            QVERIFY(!edit(boxes[0])->isEnabled() && edit("answer_1")->hasFocus());
+            QCOMPARE(missingAnswers(button) + deeds(), QString("123"));
+            fillAnswers();
+            const QString verified = "verifySuperUserAnswers" + asked + "a 0,a 1,a 2)";
+            press(button);
+            QCOMPARE(deeds(), verified + " messageAlert(verify user answers failed)");
+            QCOMPARE(host.alerts.last().first + edit("answer_1")->text(), QString("title 1 a 0 "));
+            host.whileAlertIsOpen = [this] { delete window; };
+            QTest::keyClick(edit("answer_2"), Qt::Key_Return);
+            QVERIFY(!window);
+            reopen();
+            host.answersRight = true;
+            QGuiApplication::clipboard()->clear();
+            fillAnswers();
+            QTest::keyClick(edit("answer_2"), Qt::Key_Return);
+            QCOMPARE(deeds(), verified + granted);
+            QVERIFY(QGuiApplication::clipboard()->text().isEmpty()); // not copied by the same key
+            host.answersRight = false;
+
+            reopen();
+            auto *link = child<QLabel>("importCredentialsBt");
+            QVERIFY(link->text().contains("text-decoration: underline;\">import Credentials<"));
+            QTest::mouseClick(link, Qt::RightButton);
+            QTest::mouseRelease(link, Qt::LeftButton);
+            host.chosenFile.clear();
+            QTest::mousePress(link, Qt::LeftButton); // and cancelled
+            QVERIFY(host.callsOf({"getOpenFileName"}).size() == 1 && deeds().isEmpty());
+            host.chosenFile = file.fileName();
+            const QString checked = "checkSuperUserCredentials" + asked + ')';
+            for (const bool valid : {false, true}) {
+                host.credentialsValid = valid;
+                QTest::mousePress(link, Qt::LeftButton);
+                QCOMPARE(deeds(), checked + (valid ? granted : " messageAlert(Login credentials file is invalid)"));
+            }
+            host.whileFileDialogIsOpen = [this] { delete window; };
+            QTest::mousePress(link, Qt::LeftButton);
+            QCOMPARE(deeds(), checked);
+        }
+    }
+
+    void passwordIsShownAndCopied()
+    {
+        const QString password = host.superUser.password = "<b>& W</b>";
+        host.answersRight = true;
+        newScreen(getBackPwd);
+        fillAnswers();
+        press("operBt");
+        QCOMPARE(edit("answer_1")->text() + edit("answer_3")->text(), QString("onethree"));
+        QVERIFY(edit("answer_1")->isReadOnly() && edit("answer_3")->isReadOnly());
+        auto *label = child<QLabel>("password");
+        QVERIFY(label->isVisible() && !isShown("cancelBt"));
+        QTest::keyClick(edit("answer_2"), Qt::Key_Return);
+        QCOMPARE(QGuiApplication::clipboard()->text(), password);
+        QCOMPARE(deeds(), QString("verifySuperUserAnswers(root,a 0,a 1,a 2) getbackPwdLog(root)"));
+        // Any 16 characters are seen whole, whatever they mean as markup.
+        label->setText("<b>" + QString(13, 'W'));
+        QVERIFY(label->sizeHint().width() >= label->fontMetrics().horizontalAdvance(label->text()));
+        QVERIFY(label->sizeHint().width() <= label->width());
+        const Brackets brackets;
+        QCOMPARE(text("operBt"), QString("[Copy]"));
+
+        QPointer<QWidget> parent = new QWidget;
+        for (const bool gone : {false, true}) { // the parent, while the dialog is open
+            QTimer::singleShot(0, this, [parent, gone] {
+                gone ? delete parent : QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
+            });
+            LoginAccess::_instance().getbackPassword(parent);
+            QVERIFY(gone ? !parent : parent->children().isEmpty());
+        }
+    }
+
     void languageChange()
     {
-        submit("me", good, "x");
-        ratings.clear();
-        auto brackets = std::make_unique<Brackets>();
-        QCOMPARE(child<QLabel>("label_2")->text(), QString("[Create a  new local superuser]"));
-        QCOMPARE(edit("confirmPwdWt")->placeholderText(), QString("[Confirm Password]"));
-        QCOMPARE(tip()->findChild<QLabel *>("lessThan8Tip")->text(), QString("[Password length:8-16]"));
-        QCOMPARE(edit("userWt")->text() + edit("inputPwdWt")->text() + edit("confirmPwdWt")->text(), "me" + good + 'x');
-        QVERIFY(ratings.isEmpty() && !tip()->isVisible());
-        brackets.reset();
-        handOver();
-        fillAnswers();
-        QTest::keyClick(child("question_2"), Qt::Key_Up);
-        host.calls.clear();
-        brackets = std::make_unique<Brackets>();
-        QVERIFY(host.calls.lastIndexOf("retranslate()") < host.calls.indexOf("translate(Password protection)"));
-        for (int i = 0; i < 3; ++i) {
-            const auto *box = child<ComboBox>(boxes[i]);
-            QVERIFY(box->count() == 12 && box->currentIndex() == 4 * i && edit(answers[i])->text().isEmpty());
-            QCOMPARE(box->currentText(), host.securityQuestions.value(40 * i));
+        LoginWorker::_instance().verifyPassword("ann", "bad"); // the gesture page tells of it
+        // In what order the form and the questions, where there are any, are translated
+        const QMap<int, QStringList> screens{{CreateSuperUser, {}},
+                                             {ResetSuperUserPwd, {}},
+                                             {GestureLogin, {}},
+                                             {SetSecretAnswer, {"retranslate()", "translate(Password protection)"}},
+                                             {VerifySecretAnswer, {"translate(OK)", "retranslate()"}},
+                                             {getBackPwd, {"translate(Cancel)", "retranslate()"}}};
+        for (const int screen : screens.keys()) {
+            const auto enter = [this] {
+                for (QLineEdit *field : root()->findChildren<QLineEdit *>())
+                    field->setText(field->isEnabled() ? "me" : field->text());
+            };
+            host.securityQuestions = FakeHost::twelveQuestions();
+            newScreen(screen);
+            enter();
+            if (screen == SetSecretAnswer)
+                QTest::keyClick(child("question_2"), Qt::Key_Up);
+            host.calls.clear();
+            const Brackets brackets;
+            const QStringList order = screens[screen];
+            if (!order.isEmpty())
+                QVERIFY(host.calls.contains(order[0]) && host.calls.indexOf(order[0]) < host.calls.indexOf(order[1]));
+            const QString changed = texts();
+            QCOMPARE(changed.contains("question 0'|"), !order.isEmpty());
+            newScreen(screen);
+            if (screen != SetSecretAnswer) // which begins anew
+                enter();
+            QCOMPARE(changed, texts());
         }
     }
 
     void enterIsOneClick()
     {
-        for (const int event : {CreateSuperUser, SetSecretAnswer, ResetSuperUserPwd}) {
-            newDialog(event, {"root"});
-            const QString button = event == CreateSuperUser ? "createBt" : "loginBt";
-            const QSignalSpy clicked(child<QPushButton>(button), &QPushButton::clicked);
-            QLineEdit *field = edit(event == SetSecretAnswer ? "answer_2" : "inputPwdWt");
+        const QMap<int, QStringList> screens{{CreateSuperUser, {"inputPwdWt", "createBt"}},
+                                             {ResetSuperUserPwd, {"inputPwdWt", "loginBt"}},
+                                             {SetSecretAnswer, {"answer_2", "loginBt"}},
+                                             {VerifySecretAnswer, {"answer_2", "okBt"}},
+                                             {getBackPwd, {"answer_2", "operBt"}}};
+        for (const int screen : screens.keys()) {
+            newScreen(screen);
+            const QSignalSpy clicked(child<QPushButton>(screens[screen][1]), &QPushButton::clicked);
+            QLineEdit *field = edit(screens[screen][0]);
             QTest::keyClick(field, Qt::Key_Return);
             QTest::keyClick(field, Qt::Key_Enter);
             holdEnter(field);
@@ -217,15 +291,23 @@ private slots:
     }
 
 private:
-    QWidget *root() const override // the page that is shown
+    QWidget *root() const override // the page that is shown, or the dialog
     {
-        return window->findChild<QWidget *>("loginWt")->findChild<QStackedWidget *>()->currentWidget();
+        const auto *pages = login()->findChild<QStackedWidget *>();
+        return pages ? pages->currentWidget() : window.data();
     }
 
-    void newDialog(int event, const QStringList &params = {})
+    QWidget *login() const
     {
-        open(new LoginDlg(nullptr));
-        showScreen(event, params);
+        auto *found = window->findChild<QWidget *>("loginWt");
+        return found ? found : window.data();
+    }
+
+    void newScreen(int screen, const QString &user = "root")
+    {
+        open(screen == getBackPwd ? static_cast<QWidget *>(new GetbackPwdDlg(nullptr)) : new LoginDlg(nullptr));
+        if (screen != getBackPwd)
+            showScreen(screen, {user});
         deeds();
     }
 
@@ -242,11 +324,10 @@ private:
     // The tip that a click leaves, with the field that it hangs from.
     QString press(const QString &button) const
     {
-        click(button); // takes the last tip away
-        if (!window)
-            return QString();
-        for (const QString &field : child("answer_1") ? answers : fields) {
-            if (!tipAt(edit(field)).isEmpty())
+        QTest::mousePress(window, Qt::RightButton); // takes the last tip away
+        click(button);
+        for (const QString &field : window ? fields + answers : QStringList()) {
+            if (child(field) && !tipAt(edit(field)).isEmpty())
                 return field + ": " + tipAt(edit(field));
         }
         return QString();
@@ -274,7 +355,33 @@ private:
             edit(answers[i])->setText(QString(" a %1 ").arg(i));
     }
 
-    QStringList ratings;
+    // The numbers of the fields that are told to be empty when those from the first, second and third on are.
+    QString missingAnswers(const QString &button) const
+    {
+        QString told;
+        for (int missing = 0; missing < 3; ++missing) {
+            fillAnswers();
+            for (int i = missing; i < 3; ++i)
+                edit(answers[i])->setText("  ");
+            const QString tipText = press(button);
+            if (tipText.endsWith(": answer can not be empty or be all blank!"))
+                told += tipText.midRef(7, 1);
+        }
+        return told;
+    }
+
+    // What every part of the login pages, or of the dialog, says.
+    QString texts() const
+    {
+        QString all = window->windowTitle();
+        for (const QWidget *part : login()->findChildren<QWidget *>()) {
+            for (const char *text : {"text", "currentText", "placeholderText", "toolTip", "accessibleName"})
+                all += part->property(text).toString() + '|';
+        }
+        return all;
+    }
+
+    QString rating; // the last one
 };
 
 QTEST_MAIN(TestSuperUser)

@@ -6,7 +6,6 @@
 #include "host/ZCommon/ZWidget.h"
 #include "host/kelvra_base/CapsLockToolTipHandler.h"
 #include "host/kelvra_base/ComboBox.h"
-#include "host/kelvra_base/ModuleInitialization.h"
 #include "host/kelvra_base/PwdStrengthWt.h"
 
 #include <QtTest>
@@ -16,16 +15,6 @@ using namespace kelvra_base;
 using namespace ZCOMMON;
 
 namespace {
-
-class Module : public ModuleInitialization
-{
-public:
-    Module()
-        : ModuleInitialization(nullptr)
-    {
-    }
-    using ModuleInitialization::loadStyleSheet;
-};
 
 /** A dialog of 300x200 with a panel and, on the panel, a default button and a line edit with the focus. */
 std::unique_ptr<QDialog> showDialog(bool framed)
@@ -46,15 +35,6 @@ std::unique_ptr<QDialog> showDialog(bool framed)
     return QTest::qWaitForWindowActive(dialog.get()) ? std::move(dialog) : nullptr;
 }
 
-/** What the spy has heard since the last call. */
-QVector<int> taken(QSignalSpy &spy)
-{
-    QVector<int> values;
-    while (!spy.isEmpty())
-        values.append(spy.takeFirst().at(0).toInt());
-    return values;
-}
-
 } // namespace
 
 class TestToolkit : public QObject
@@ -64,29 +44,27 @@ class TestToolkit : public QObject
 private slots:
     void dialogFollowsDrag()
     {
-        struct Row
-        {
-            const char *what;
-            bool framed;
-            QPoint press;
-            Qt::MouseButton button;
-            bool moves;
-        };
-        for (const Row &row : {Row{"panel", false, {200, 120}, Qt::LeftButton, true},
-                               Row{"button", false, {40, 75}, Qt::LeftButton, false},
-                               Row{"line edit", false, {40, 125}, Qt::LeftButton, false},
-                               Row{"right button", false, {150, 20}, Qt::RightButton, false},
-                               Row{"title bar", true, {150, 20}, Qt::LeftButton, true},
-                               Row{"below the bar", true, {200, 120}, Qt::LeftButton, false}}) {
-            const auto dialog = showDialog(row.framed);
-            const QPoint end = dialog->pos() + (row.moves ? QPoint(30, 20) : QPoint());
+        const QPoint onButton(40, 75), onEdit(40, 125), onBar(150, 20);
+        const QVector<std::tuple<bool, QPoint, Qt::MouseButton, bool>> rows = {
+            // Whether the dialog has a frame, what is pressed on its panel or above, whether it moves
+            {false, {200, 120}, Qt::LeftButton, true}, {false, onButton, Qt::LeftButton, false},
+            {false, onEdit, Qt::LeftButton, false},    {false, onBar, Qt::RightButton, false},
+            {true, onBar, Qt::LeftButton, true},       {true, {200, 120}, Qt::LeftButton, false}};
+        for (const auto &[framed, press, button, moves] : rows) {
+            const auto dialog = showDialog(framed);
+            const QPoint end = dialog->pos() + (moves ? QPoint(30, 20) : QPoint());
             QWindow *const window = dialog->windowHandle();
-            QTest::mousePress(window, row.button, {}, row.press);
-            QTest::mouseMove(window, row.press + QPoint(30, 20));
-            QVERIFY2(dialog->pos() == end, row.what);
-            QTest::mouseRelease(window, row.button, {}, row.press);
-            QTest::mouseMove(window, row.press + QPoint(50, 30));
-            QVERIFY2(dialog->pos() == end, row.what);
+            QTest::mousePress(window, button, {}, press);
+            QTest::mouseMove(window, press + QPoint(30, 20));
+            QCOMPARE(dialog->pos(), end);
+            QTest::mouseRelease(window, button, {}, press);
+            QTest::mouseMove(window, press + QPoint(50, 30));
+            QCOMPARE(dialog->pos(), end);
+            if (auto *moveable = qobject_cast<MoveableDialog *>(dialog.get()))
+                moveable->setDefaultPos({70, 50}); // is for the first show
+            for (const bool visible : {false, true})
+                dialog->setVisible(visible);
+            QCOMPARE(dialog->pos(), end);
         }
     }
 
@@ -101,39 +79,25 @@ private slots:
         QVERIFY(frame->isHidden());
     }
 
-    void defaultPosIsForTheFirstShow()
-    {
-        MoveableDialog dialog(nullptr, QString(), Qt::black);
-        dialog.setDefaultPos({70, 50});
-        dialog.show();
-        QCOMPARE(dialog.pos(), QPoint(70, 50));
-        dialog.move(10, 20);
-        for (const bool visible : {false, true})
-            dialog.setVisible(visible);
-        QCOMPARE(dialog.pos(), QPoint(10, 20));
-    }
-
     void progressGlides()
     {
         SmoothProgress progress;
-        QSignalSpy spy(&progress, &SmoothProgress::signalProgress);
+        QVector<int> seen;
+        connect(&progress, &SmoothProgress::signalProgress, this, [&seen](int value) { seen << value; });
         progress.setCurrentProgress(60);
-        QCOMPARE(spy.count(), 0);
-        QTRY_VERIFY(spy.count() > 3);
+        QVERIFY(seen.isEmpty());
+        QTRY_VERIFY(seen.size() > 3);
         progress.setCurrentProgress(100);
-        QTRY_COMPARE(spy.last().at(0).toInt(), 100);
-        const QVector<int> up = taken(spy);
-        QVERIFY(up.size() > 20 && std::is_sorted(up.cbegin(), up.cend()));
-        QCOMPARE(std::adjacent_find(up.cbegin(), up.cend()), up.cend());
-
+        QTRY_COMPARE(seen.last(), 100);
+        QVERIFY(seen.size() > 20 && std::is_sorted(seen.cbegin(), seen.cend()));
+        QCOMPARE(std::adjacent_find(seen.cbegin(), seen.cend()), seen.cend());
         progress.setCurrentProgress(100); // there already
         progress.setCurrentProgress(97);
-        QTRY_COMPARE(spy.count(), 3);
-        QCOMPARE(taken(spy), QVector<int>({99, 98, 97}));
+        QTRY_COMPARE(seen.last(), 97);
         progress.resetProgress();
         progress.setCurrentProgress(1);
-        QTRY_COMPARE(spy.count(), 1);
-        QCOMPARE(taken(spy), QVector<int>({1}));
+        QTRY_COMPARE(seen.last(), 1);
+        QCOMPARE(seen.mid(seen.indexOf(100)), QVector<int>({100, 99, 98, 97, 1}));
     }
 
     void progressDiesInItsSlot()
@@ -146,16 +110,15 @@ private slots:
 
     void strength()
     {
-        const QVector<QPair<QString, PwdStrength>> grades = {
-            {"", PwdLengthIllegal},
-            {"Abcde1!", PwdLengthIllegal},           // 7 characters
-            {"Abcdefghijklmno1!", PwdLengthIllegal}, // 17
-            {"Abcdefghijklmn1!", PwdStrong},         // 16
-            {"abcd efgh", PwdTooSimple},             // a blank is no kind
-            {"abcdefg1", PwdWeak},
-            {"Abcdefg1", PwdMedium},
-            {QString::fromUtf8("abcdef\U0001F600"), PwdWeak} // surrogates count twice
-        };
+        using Grades = QVector<QPair<QString, PwdStrength>>;
+        const Grades grades = {{"", PwdLengthIllegal},
+                               {"Abcde1!", PwdLengthIllegal},           // 7 characters
+                               {"Abcdefghijklmno1!", PwdLengthIllegal}, // 17
+                               {"Abcdefghijklmn1!", PwdStrong},         // 16
+                               {"abcd efgh", PwdTooSimple},             // a blank is no kind
+                               {"abcdefg1", PwdWeak},
+                               {"Abcdefg1", PwdMedium},
+                               {"abcdef\U0001F600", PwdWeak}}; // surrogates count twice
         for (const auto &[pwd, grade] : grades) {
             PwdStrengthWt meter;
             meter.resize(200, 10);
@@ -163,25 +126,7 @@ private slots:
             QVERIFY2(meter.setPwd(pwd) == grade, qPrintable(pwd));
             QCOMPARE(meter.grab().toImage() == track, pwd.isEmpty());
         }
-    }
-
-    void reversed()
-    {
-        QCOMPARE(ToolsCollection::reverseString(QString::fromUtf8("ab\U0001F600\U0001F511z")),
-                 QString::fromUtf8("z\U0001F511\U0001F600ba"));
-    }
-
-    void styleSheetIsAddedOnce()
-    {
-        qApp->setStyleSheet("QLabel{color:red}");
-        QTemporaryFile file;
-        QVERIFY(file.open() && file.write("QLabel{margin:1px}") > 0 && file.flush());
-        Module module;
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("cannot be read"));
-        for (const QString &name : {file.fileName(), QString(":/none.qss"), file.fileName()})
-            module.loadStyleSheet(name);
-        QCOMPARE(qApp->styleSheet(), QString("QLabel{color:red}\nQLabel{margin:1px}"));
-        qApp->setStyleSheet(QString());
+        QCOMPARE(ToolsCollection::reverseString("ab\U0001F600\U0001F511z"), QString("z\U0001F511\U0001F600ba"));
     }
 
     void labelIsElided()
@@ -263,33 +208,15 @@ private slots:
         QCOMPARE(AlertBox::ask(owner, AlertBox::Error, "title", "text", OkButton | CancelButton), CancelButton);
     }
 
-    void comboBoxPicksFromItsList()
+    void comboBox()
     {
-        ComboBox box;
-        box.addItem("one", 11);
-        box.addItem("two", 22);
-        QListWidget *const list = box.getListWt();
-        list->setStyleSheet("QListWidget{border:0px;} QListWidget::item{min-height:40px;}");
-        box.show();
-        box.showPopup();
-        QVERIFY(QTest::qWaitForWindowExposed(list->window()));
-        const QRect second = list->visualItemRect(list->item(1));
-        QVERIFY(second.height() >= 40 && list->viewport()->rect().contains(second));
-        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, second.center());
-        QCOMPARE(box.currentData().toInt(), 22);
-        QTRY_VERIFY(list->window()->isHidden());
-    }
-
-    void comboBoxShortensWhatIsTooWide()
-    {
-        const auto prepare = [](QComboBox &box) {
-            box.addItems({"one", "a text that is much too wide for the box"});
-            box.resize(120, 30);
-        };
+        // What is too wide is shortened, and told by the tip.
         ComboBox box;
         QComboBox clipping;
-        prepare(box);
-        prepare(clipping);
+        for (QComboBox *one : {static_cast<QComboBox *>(&box), &clipping}) {
+            one->addItems({"one", "a text that is much too wide for the box"});
+            one->resize(120, 30);
+        }
         for (const int index : {0, 1}) {
             box.setCurrentIndex(index);
             clipping.setCurrentIndex(index);
@@ -298,7 +225,17 @@ private slots:
             QCoreApplication::sendEvent(&box, &ask);
             QCOMPARE(QToolTip::text(), index == 0 ? QString() : box.currentText());
         }
-        QToolTip::hideText();
+        box.setCurrentIndex(0);
+        QListWidget *const list = box.getListWt();
+        list->setStyleSheet("QListWidget{border:0px;} QListWidget::item{min-height:40px;}");
+        box.show();
+        box.showPopup();
+        QVERIFY(QTest::qWaitForWindowExposed(list->window()));
+        const QRect second = list->visualItemRect(list->item(1));
+        QVERIFY(second.height() >= 40 && list->viewport()->rect().contains(second));
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, second.center());
+        QCOMPARE(box.currentIndex(), 1);
+        QTRY_VERIFY(list->window()->isHidden());
     }
 };
 

@@ -1,6 +1,6 @@
 #!/bin/sh
 # Makes docs/gallery.md and docs/screens/ anew: the pictures of the client's tour in English, and those that the
-# languages' test takes of the screens in German. A minute or three. Argument: a build folder to use instead of
+# screens' test takes of each one in German. A minute or three. Argument: a build folder to use instead of
 # build/dev, which is built first.
 set -eu
 root=$(CDPATH='' cd -- "$(dirname -- "$0")/.." && pwd)
@@ -33,7 +33,7 @@ for picture in "$raw"/[0-9][0-9]-*.png; do
     mv "$picture" "$raw/$(basename "$picture" | cut -d - -f 2-)"
 done
 say "Taking the screens (German)"
-KELVRA_TEST_PICTURES=$raw "$programs/tst_languages" texts:de >"$raw/log" 2>&1 || {
+KELVRA_TEST_PICTURES=$raw "$programs/tst_screens" >"$raw/log" 2>&1 || {
     grep -v '^PASS' "$raw/log"
     exit 1
 }

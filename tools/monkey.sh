@@ -9,5 +9,5 @@ cmake --build "$build" --target monkey --parallel "$(nproc)" >/dev/null
 export QT_QPA_PLATFORM=offscreen LSAN_OPTIONS="suppressions=$PWD/tests/lsan.supp:print_suppressions=0"
 [ $# -gt 0 ] || set -- 1 2 3 4 5 6 7 8 9 10
 for seed; do
-    "$build/bin/monkey" --seed "$seed" --events "${EVENTS:-100000}"
+    "$build/bin/monkey" "${EVENTS:-100000}" "$seed"
 done

@@ -43,7 +43,8 @@ bool isQuoteLeftOpen(const QByteArray &line)
 bool isIni(const QByteArray &data)
 {
     bool continued = false;
-    for (const QByteArray &line : data.split('\n')) {
+    // A carriage return on its own ends a line too.
+    for (const QByteArray &line : QByteArray(data).replace("\r\n", "\n").replace('\r', '\n').split('\n')) {
         const QByteArray text = line.trimmed();
         const bool section = text.startsWith('[') && text.endsWith(']');
         const bool comment = text.startsWith(';') || text.startsWith('#');

@@ -13,52 +13,58 @@
 #include "host/kelvra_worker/SystemWorker.h"
 #include "host/kelvra_worker/UiSettings.h"
 
+#include <QRegularExpression>
 #include <QWidget>
 
 #include <algorithm>
 
+using namespace kelvra_data;
+using namespace kelvra_saas;
+using namespace kelvra_worker;
+
 namespace {
 
-FakeHost &fake()
-{
-    return FakeHost::get();
-}
-
-template <typename... Arguments>
-void record(const char *operation, const Arguments &...arguments)
-{
-    fake().record(QString::fromLatin1(operation), {QVariant(arguments).toString()...});
-}
+using Text = const QString &;
+using Texts = QMap<int, QString>;
+FakeHost &host = FakeHost::get();
 
 /** Records a call of `operation` with the arguments that it is handed. */
 auto recordedAs(const char *operation)
 {
-    return [operation](const auto &...arguments) { record(operation, arguments...); };
+    return [operation](const auto &...arguments) { host.record(operation, {QVariant(arguments).toString()...}); };
+}
+
+template <typename T, typename Value>
+bool stored(T &place, const Value &value)
+{
+    place = value;
+    return true;
 }
 
 // An operation that records the arguments in the second brackets and answers, or does, what the last argument says.
-#define ANSWERED(RESULT, NAME, PARAMETERS, ARGUMENTS, ANSWER)                                                          \
+#define ANSWERED(RESULT, NAME, PARAMETERS, ARGUMENTS, ...)                                                             \
     RESULT NAME PARAMETERS                                                                                             \
     {                                                                                                                  \
         recordedAs(__func__) ARGUMENTS;                                                                                \
-        return ANSWER;                                                                                                 \
+        return __VA_ARGS__;                                                                                            \
     }
-#define UNRECORDED(RESULT, SIGNATURE, ANSWER)                                                                          \
+#define DONE(NAME, PARAMETERS, ARGUMENTS, ...) ANSWERED(void, NAME, PARAMETERS, ARGUMENTS, void(__VA_ARGS__))
+#define TOLD(NAME, PARAMETERS, ARGUMENTS) DONE(NAME, PARAMETERS, ARGUMENTS, 0)
+#define UNRECORDED(RESULT, SIGNATURE, ...)                                                                             \
     RESULT SIGNATURE                                                                                                   \
     {                                                                                                                  \
-        return ANSWER;                                                                                                 \
+        return __VA_ARGS__;                                                                                            \
     }
-#define DONE(NAME, PARAMETERS, ARGUMENTS, ACTION) ANSWERED(void, NAME, PARAMETERS, ARGUMENTS, void(ACTION))
-#define TOLD(NAME, PARAMETERS, ARGUMENTS) DONE(NAME, PARAMETERS, ARGUMENTS, 0)
 
-#define STATELESS(CLASS)                                                                                               \
-    CLASS::CLASS() = default;                                                                                          \
-    CLASS::~CLASS() = default;
-#define WITHOUT_PRIVATE_STATE(CLASS)                                                                                   \
-    class CLASS::Private                                                                                               \
+#define STATELESS(SPACE, CLASS)                                                                                        \
+    ZSINGLETON_DEFINE(SPACE::CLASS)                                                                                    \
+    SPACE::CLASS::CLASS() = default;                                                                                   \
+    SPACE::CLASS::~CLASS() = default;
+#define WITHOUT_PRIVATE_STATE(SPACE, CLASS)                                                                            \
+    class SPACE::CLASS::Private                                                                                        \
     {                                                                                                                  \
     };                                                                                                                 \
-    STATELESS(CLASS)
+    STATELESS(SPACE, CLASS)
 
 // An open alert lets the test act for once: what it does may well open another.
 void runOnce(std::function<void()> &action)
@@ -73,42 +79,31 @@ QMap<int, QString> FakeHost::twelveQuestions()
 {
     QMap<int, QString> questions;
     for (int id = 0; id < 12; ++id)
-        questions.insert(10 * id, QStringLiteral("question %1").arg(10 * id));
+        questions.insert(10 * id, QString("question %1").arg(10 * id));
     return questions;
 }
 
 FakeHost &FakeHost::get()
 {
-    static FakeHost host;
-    return host;
-}
-
-void FakeHost::reset()
-{
-    *this = FakeHost();
+    static FakeHost instance;
+    return instance;
 }
 
 void FakeHost::record(const QString &operation, const QStringList &arguments)
 {
-    calls << operation + QLatin1Char('(') + arguments.join(QLatin1Char(',')) + QLatin1Char(')');
+    calls << operation + '(' + arguments.join(',') + ')';
 }
 
 QStringList FakeHost::callsOf(const QStringList &operations) const
 {
-    QStringList found;
-    for (const QString &call : calls) {
-        if (operations.isEmpty() || operations.contains(call.section(QLatin1Char('('), 0, 0)))
-            found << call;
-    }
-    return found;
+    return calls.filter(QRegularExpression("^(" + operations.join('|') + ")\\("));
 }
 
 FakeHost::User &FakeHost::rememberUser(const QString &name, const QString &password, int daysAgo)
 {
     User &user = users[name];
     user.password = password;
-    user.hasRecord = true;
-    user.autoLogin = true;
+    user.hasRecord = user.autoLogin = true;
     user.lastLogin = QDateTime::currentDateTime().addDays(-daysAgo);
     lastLocalUser = name;
     return user;
@@ -116,243 +111,139 @@ FakeHost::User &FakeHost::rememberUser(const QString &name, const QString &passw
 
 // Data library ------------------------------------------------------------------------------------------------------
 
-ZSINGLETON_DEFINE(kelvra_data::UserData)
+WITHOUT_PRIVATE_STATE(kelvra_data, UserData)
 
-namespace kelvra_data {
-
-WITHOUT_PRIVATE_STATE(UserData)
-
-ANSWERED(bool, UserData::isFirstLogin, (), (), fake().firstLogin)
-ANSWERED(bool, UserData::isUserExist, (const QString &name), (name), fake().users.contains(name))
-ANSWERED(bool, UserData::isSuperUser, (const QString &name), (name), fake().users.value(name).superUser)
+ANSWERED(bool, UserData::isFirstLogin, (), (), host.firstLogin)
+ANSWERED(bool, UserData::isUserExist, (Text name), (name), host.users.contains(name))
+ANSWERED(bool, UserData::isSuperUser, (Text name), (name), host.users.value(name).superUser)
 ANSWERED(bool, UserData::isSuperUserExist, (UserRole role), (int(role)),
-         std::any_of(fake().users.cbegin(), fake().users.cend(), [](const auto &user) { return user.superUser; }))
-
-UserInfo UserData::getUserInfo(const QString &name)
-{
-    record("getUserInfo", name);
-    UserInfo info;
-    if (fake().users.contains(name)) {
-        info.name = name;
-        info.password = fake().users[name].password;
-        info.attribute = fake().users[name].attribute;
-    }
-    return info;
-}
-
-ANSWERED(SuperUserInfo, UserData::getSuperUserInfo, (const QString &name), (name), fake().superUser)
-ANSWERED(QString, UserData::getLastLoggedLocalUser, (), (), fake().lastLocalUser)
-ANSWERED(bool, UserData::verifyUserPassword, (const QString &name, const QString &password), (name, password),
-         fake().users.contains(name) && fake().users[name].password == password)
-ANSWERED(bool, UserData::verifyUserGesture, (const QString &name, const QString &gesture), (name, gesture),
-         fake().users.contains(name) && fake().users[name].gesture == gesture)
-
-bool UserData::getLockInfo(bool &locked, int &seconds)
-{
-    record("getLockInfo");
-    if (!fake().lockKnown)
-        return false;
-    locked = fake().locked;
-    seconds = fake().lockSeconds;
-    return true;
-}
-
-bool UserData::updateLockInfo(bool locked, int seconds)
-{
-    record("updateLockInfo", locked, seconds);
-    if (!fake().updatesSucceed)
-        return false;
-    fake().locked = locked;
-    fake().lockSeconds = seconds;
-    return true;
-}
-
-ANSWERED(bool, UserData::updateUserLoginRecord, (const QString &name, bool autoLogin), (name, autoLogin), true)
-
-bool UserData::getUserLoginRecord(const QString &name, bool &autoLogin, QDateTime &lastLogin)
-{
-    record("getUserLoginRecord", name);
-    const FakeHost::User user = fake().users.value(name);
-    if (!user.hasRecord)
-        return false;
-    autoLogin = user.autoLogin;
-    lastLogin = user.lastLogin;
-    return true;
-}
-
-ANSWERED(bool, UserData::isUserAutoLogin, (const QString &name), (name), fake().users.value(name).autoLogin)
-ANSWERED(bool, UserData::userAutoLoginCtrl, (const QString &name, bool on), (name, on), fake().users.contains(name))
+         std::any_of(host.users.cbegin(), host.users.cend(), [](const auto &user) { return user.superUser; }))
+ANSWERED(UserInfo, UserData::getUserInfo, (Text name), (name),
+         {host.users.contains(name) ? name : QString(), host.users.value(name).password,
+          host.users.value(name).attribute, QString(), QString()})
+ANSWERED(SuperUserInfo, UserData::getSuperUserInfo, (Text name), (name), host.superUser)
+ANSWERED(QString, UserData::getLastLoggedLocalUser, (), (), host.lastLocalUser)
+ANSWERED(bool, UserData::verifyUserPassword, (Text name, Text password), (name, password),
+         host.users.contains(name) && host.users[name].password == password)
+ANSWERED(bool, UserData::verifyUserGesture, (Text name, Text gesture), (name, gesture),
+         host.users.contains(name) && host.users[name].gesture == gesture)
+ANSWERED(bool, UserData::getLockInfo, (bool &locked, int &seconds), (),
+         host.lockKnown &&stored(locked, host.locked) && stored(seconds, host.lockSeconds))
+ANSWERED(bool, UserData::updateLockInfo, (bool locked, int seconds), (locked, seconds),
+         host.updatesSucceed &&stored(host.locked, locked) && stored(host.lockSeconds, seconds))
+ANSWERED(bool, UserData::updateUserLoginRecord, (Text name, bool autoLogin), (name, autoLogin), true)
+ANSWERED(bool, UserData::getUserLoginRecord, (Text name, bool &autoLogin, QDateTime &lastLogin), (name),
+         host.users.value(name).hasRecord &&stored(autoLogin, host.users[name].autoLogin) &&
+             stored(lastLogin, host.users[name].lastLogin))
+ANSWERED(bool, UserData::isUserAutoLogin, (Text name), (name), host.users.value(name).autoLogin)
+ANSWERED(bool, UserData::userAutoLoginCtrl, (Text name, bool on), (name, on), host.users.contains(name))
 ANSWERED(bool, UserData::updateLoginEnvironment, (), (), true)
-ANSWERED(bool, UserData::isSameLoginEnvironment, (), (), fake().sameEnvironment)
-ANSWERED(bool, UserData::isUserConfigureGesture, (const QString &name), (name),
-         !fake().users.value(name).gesture.isEmpty())
-
-bool UserData::updateUserGesture(const QString &name, const QString &gesture)
-{
-    record("updateUserGesture", name, gesture);
-    if (fake().gestureUpdatesSucceed)
-        fake().users[name].gesture = gesture;
-    return fake().gestureUpdatesSucceed;
-}
-
-ANSWERED(bool, UserData::deleteUserGesture, (const QString &name), (name), fake().gestureUpdatesSucceed)
-
-bool UserData::addSuperUser(const SuperUserInfo &info)
-{
-    record("addSuperUser", info.userName);
-    fake().addedSuperUser = info;
-    if (fake().addSuperUserSucceeds) {
-        fake().users[info.userName].superUser = true;
-        fake().users[info.userName].password = info.password;
-    }
-    return fake().addSuperUserSucceeds;
-}
-
-ANSWERED(bool, UserData::addSuperUserFromSaasUser, (const QString &account), (account), true)
-ANSWERED(bool, UserData::resetUserPwd, (const QString &name, const QString &password), (name, password),
-         fake().resetUserPwdSucceeds)
-ANSWERED(bool, UserData::verifySuperUserAnswers,
-         (const QString &name, const QString &answer1, const QString &answer2, const QString &answer3),
-         (name, answer1, answer2, answer3), fake().answersRight)
-ANSWERED(QString, UserData::generateSuperUserCredentials, (const QString &name), (name), fake().credentials)
-ANSWERED(bool, UserData::checkSuperUserCredentials, (const QString &name, const QString &credential),
-         (name, credential), fake().credentialsValid)
-
-} // namespace kelvra_data
+ANSWERED(bool, UserData::isSameLoginEnvironment, (), (), host.sameEnvironment)
+ANSWERED(bool, UserData::isUserConfigureGesture, (Text name), (name), !host.users.value(name).gesture.isEmpty())
+ANSWERED(bool, UserData::updateUserGesture, (Text name, Text gesture), (name, gesture),
+         host.gestureUpdatesSucceed &&stored(host.users[name].gesture, gesture))
+ANSWERED(bool, UserData::deleteUserGesture, (Text name), (name), host.gestureUpdatesSucceed)
+ANSWERED(bool, UserData::addSuperUser, (const SuperUserInfo &info), (info.userName),
+         stored(host.addedSuperUser, info) && host.addSuperUserSucceeds &&
+             stored(host.users[info.userName].superUser, true) &&
+             stored(host.users[info.userName].password, info.password))
+ANSWERED(bool, UserData::addSuperUserFromSaasUser, (Text account), (account), true)
+ANSWERED(bool, UserData::resetUserPwd, (Text name, Text password), (name, password), host.resetUserPwdSucceeds)
+ANSWERED(bool, UserData::verifySuperUserAnswers, (Text name, Text answer1, Text answer2, Text answer3),
+         (name, answer1, answer2, answer3), host.answersRight)
+ANSWERED(QString, UserData::generateSuperUserCredentials, (Text name), (name), host.credentials)
+ANSWERED(bool, UserData::checkSuperUserCredentials, (Text name, Text credential), (name, credential),
+         host.credentialsValid)
 
 // Worker library ----------------------------------------------------------------------------------------------------
 
-ZSINGLETON_DEFINE(kelvra_worker::SystemWorker)
-ZSINGLETON_DEFINE(kelvra_worker::LoginLogs)
-ZSINGLETON_DEFINE(kelvra_worker::UiSettings)
-ZSINGLETON_DEFINE(kelvra_worker::SysLanguage)
-ZSINGLETON_DEFINE(kelvra_worker::DictDef)
-ZSINGLETON_DEFINE(kelvra_worker::Customization)
-ZSINGLETON_DEFINE(kelvra_worker::SystemAssistant)
+WITHOUT_PRIVATE_STATE(kelvra_worker, SystemWorker)
+STATELESS(kelvra_worker, LoginLogs)
+WITHOUT_PRIVATE_STATE(kelvra_worker, UiSettings)
+WITHOUT_PRIVATE_STATE(kelvra_worker, SysLanguage)
+WITHOUT_PRIVATE_STATE(kelvra_worker, DictDef)
+STATELESS(kelvra_worker, Customization)
+STATELESS(kelvra_worker, SystemAssistant)
 
-namespace kelvra_worker {
+DONE(SystemWorker::setCurUserInfo, (UserType type, Text name, Text password, int attribute, bool autoLogin),
+     (int(type), name, password, attribute, autoLogin), host.currentUser = name)
+DONE(SystemWorker::setLoginSuccess, (bool success), (success), host.loginSuccess = success)
+UNRECORDED(bool, SystemWorker::isLoginSuccess() const, host.loginSuccess)
+DONE(SystemWorker::setLastLoggedInUserType, (UserType type), (int(type)), host.lastUserType = type)
+UNRECORDED(UserType, SystemWorker::lastLoggedUserType() const, host.lastUserType)
+UNRECORDED(Text, SystemWorker::getCurUserName() const, host.currentUser)
+UNRECORDED(Text, SystemWorker::getSuperUserName() const, host.superUser.userName)
+TOLD(SystemWorker::setSuperUserInfo, (Text name, Text password), (name, password))
 
-WITHOUT_PRIVATE_STATE(SystemWorker)
+TOLD(LoginLogs::loginSuccessLog, (Text name, int method, bool autoLogin), (name, method, autoLogin))
+TOLD(LoginLogs::loginFailureLog, (Text name, int method), (name, method))
+TOLD(LoginLogs::lockUserLog, (Text name, int seconds), (name, seconds))
+TOLD(LoginLogs::addGestureLog, (Text name), (name))
+TOLD(LoginLogs::updateGestureLog, (Text name), (name))
+TOLD(LoginLogs::deleteGestureLog, (Text name), (name))
+TOLD(LoginLogs::openAutoLoginLog, (Text name), (name))
+TOLD(LoginLogs::cancelAutoLoginLog, (Text name), (name))
+TOLD(LoginLogs::resetUserPwdLog, (Text name), (name))
+TOLD(LoginLogs::createUserLog, (Text name), (name))
+TOLD(LoginLogs::getbackPwdLog, (Text name), (name))
+TOLD(LoginLogs::exportLoginCredentialsLog, (Text name), (name))
 
-DONE(SystemWorker::setCurUserInfo,
-     (UserType type, const QString &name, const QString &password, int attribute, bool autoLogin),
-     (int(type), name, password, attribute, autoLogin), fake().currentUser = name)
-DONE(SystemWorker::setLoginSuccess, (bool success), (success), fake().loginSuccess = success)
-UNRECORDED(bool, SystemWorker::isLoginSuccess() const, fake().loginSuccess)
-DONE(SystemWorker::setLastLoggedInUserType, (UserType type), (int(type)), fake().lastUserType = type)
-UNRECORDED(UserType, SystemWorker::lastLoggedUserType() const, fake().lastUserType)
-UNRECORDED(const QString &, SystemWorker::getCurUserName() const, fake().currentUser)
-UNRECORDED(const QString &, SystemWorker::getSuperUserName() const, fake().superUser.userName)
-TOLD(SystemWorker::setSuperUserInfo, (const QString &name, const QString &password), (name, password))
+ANSWERED(QVariant, UiSettings::getValue, (Text key) const, (key), host.settings.value(key))
+DONE(UiSettings::setValue, (Text key, const QVariant &value), (key, value), host.settings[key] = value)
 
-STATELESS(LoginLogs)
-
-TOLD(LoginLogs::loginSuccessLog, (const QString &name, int method, bool autoLogin), (name, method, autoLogin))
-TOLD(LoginLogs::loginFailureLog, (const QString &name, int method), (name, method))
-TOLD(LoginLogs::lockUserLog, (const QString &name, int seconds), (name, seconds))
-TOLD(LoginLogs::addGestureLog, (const QString &name), (name))
-TOLD(LoginLogs::updateGestureLog, (const QString &name), (name))
-TOLD(LoginLogs::deleteGestureLog, (const QString &name), (name))
-TOLD(LoginLogs::openAutoLoginLog, (const QString &name), (name))
-TOLD(LoginLogs::cancelAutoLoginLog, (const QString &name), (name))
-TOLD(LoginLogs::resetUserPwdLog, (const QString &name), (name))
-TOLD(LoginLogs::createUserLog, (const QString &name), (name))
-TOLD(LoginLogs::getbackPwdLog, (const QString &name), (name))
-TOLD(LoginLogs::exportLoginCredentialsLog, (const QString &name), (name))
-
-WITHOUT_PRIVATE_STATE(UiSettings)
-
-ANSWERED(QVariant, UiSettings::getValue, (const QString &key) const, (key), fake().settings.value(key))
-DONE(UiSettings::setValue, (const QString &key, const QVariant &value), (key, value.toString()),
-     fake().settings[key] = value)
-
-WITHOUT_PRIVATE_STATE(SysLanguage)
-
-UNRECORDED(Language, SysLanguage::getLanguage() const, Language(fake().language))
-
-QMap<int, QString> SysLanguage::getLanguageNames() const
-{
-    return {{0, QStringLiteral("English")}, {4, QStringLiteral("Lingua")}};
-}
-
+UNRECORDED(Language, SysLanguage::getLanguage() const, Language(host.language))
+UNRECORDED(Texts, SysLanguage::getLanguageNames() const, {{0, "English"}, {4, "Lingua"}})
 TOLD(SysLanguage::setLanguage, (Language language, bool save), (int(language), save))
 
-WITHOUT_PRIVATE_STATE(DictDef)
+UNRECORDED(QString, DictDef::alertTitle(AlertTitle title) const, QString("title %1").arg(title))
+UNRECORDED(const Texts &, DictDef::securityQuestions() const, host.securityQuestions)
+DONE(DictDef::retranslate, (), (),
+     std::for_each(host.securityQuestions.begin(), host.securityQuestions.end(), [](auto &text) { text += '\''; }))
 
-void DictDef::retranslate()
-{
-    record("retranslate");
-    for (QString &question : fake().securityQuestions)
-        question += QLatin1Char('\'');
-}
-
-UNRECORDED(QString, DictDef::alertTitle(AlertTitle title) const, QStringLiteral("title %1").arg(title))
-
-const QMap<int, QString> &DictDef::securityQuestions() const
-{
-    return fake().securityQuestions;
-}
-
-STATELESS(Customization)
-
-UNRECORDED(const CustomizeInfo &, Customization::getCustomizeInfo() const, fake().customization)
-
-STATELESS(SystemAssistant)
+UNRECORDED(const CustomizeInfo &, Customization::getCustomizeInfo() const, host.customization)
 
 void SystemAssistant::messageAlert(const QString &title, const QString &alertText)
 {
-    record("messageAlert", alertText);
-    fake().alerts.append({title, alertText});
-    runOnce(fake().whileAlertIsOpen);
+    recordedAs("messageAlert")(alertText);
+    host.alerts.append({title, alertText});
+    runOnce(host.whileAlertIsOpen);
 }
 
-} // namespace kelvra_worker
-
 // Cloud library -----------------------------------------------------------------------------------------------------
-
-ZSINGLETON_DEFINE(kelvra_saas::LoginWorker)
-ZSINGLETON_DEFINE(kelvra_saas::SaasWorker)
-
-namespace kelvra_saas {
 
 template <typename Callback, typename... Rest>
 void keepCall(const QString &requestId, const Callback &callback, const Rest &...rest)
 {
-    fake().cloudCalls.append({requestId, [=](const Response &response) { callback(response, rest...); }});
+    host.cloudCalls.append({requestId, [=](const Response &response) { callback(response, rest...); }});
 }
 
-WITHOUT_PRIVATE_STATE(LoginWorker)
+WITHOUT_PRIVATE_STATE(kelvra_saas, LoginWorker)
+WITHOUT_PRIVATE_STATE(kelvra_saas, SaasWorker)
 
 DONE(LoginWorker::login, (const LoginReq &request, const LoginCallback &callback),
      (request.account, request.password, request.verificationCode, request.loginType),
      keepCall(request.requestId, callback, LoginErrorInfo{QString(), 3, 2, 600, 30}))
 DONE(LoginWorker::getVerificationCode, (const VerificationCodeReq &request, const ResponseCallback &callback),
      (request.account, request.purpose, request.accountKind), keepCall(request.requestId, callback))
-DONE(LoginWorker::getAccountAfterScanQRCode, (const QString &requestId, const AccountCallback &callback), (),
-     keepCall(requestId, callback, QStringLiteral("13912345678")))
-DONE(LoginWorker::getLoginQRCode, (const QString &requestId, const QRCodeCallback &callback), (),
-     fake().qrCodeRequests.append({requestId, QString(), callback}))
-DONE(LoginWorker::checkLoginQRCodeStatus,
-     (const QString &requestId, const QString &qrCodeId, const QRCodeStatusCallback &callback), (qrCodeId),
-     fake().qrCodeStatusQueries.append({requestId, qrCodeId, callback}))
-DONE(LoginWorker::checkLoginQRCodeResult,
-     (const QString &requestId, const QString &qrCodeId, const ResponseCallback &callback), (qrCodeId),
-     fake().qrCodeResultQueries.append({requestId, qrCodeId, callback}))
-DONE(LoginWorker::tryAutoLogin, (const QString &requestId, const QString &account, const AccountCallback &callback),
-     (account), fake().autoLogins.append({requestId, account, QString(), callback}))
-DONE(LoginWorker::tryAutoLogin,
-     (const QString &requestId, const QString &account, const QString &password, const AccountCallback &callback),
-     (account, password), fake().autoLogins.append({requestId, account, password, callback}))
-ANSWERED(bool, LoginWorker::cancelAccountAutoLogin, (const QString &account), (account), true)
-UNRECORDED(QString, LoginWorker::getRecentlyLoggedInAccount(), fake().recentAccount)
+DONE(LoginWorker::getAccountAfterScanQRCode, (Text requestId, const AccountCallback &callback), (),
+     keepCall(requestId, callback, QString("13912345678")))
+DONE(LoginWorker::getLoginQRCode, (Text requestId, const QRCodeCallback &callback), (),
+     host.qrCodeRequests.append({requestId, callback}))
+DONE(LoginWorker::checkLoginQRCodeStatus, (Text requestId, Text code, const QRCodeStatusCallback &callback), (code),
+     host.qrCodeStatusQueries.append({requestId, callback}))
+DONE(LoginWorker::checkLoginQRCodeResult, (Text requestId, Text code, const ResponseCallback &callback), (code),
+     host.qrCodeResultQueries.append({requestId, callback}))
+DONE(LoginWorker::tryAutoLogin, (Text requestId, Text account, const AccountCallback &callback), (account),
+     host.autoLogins.append({requestId, account, callback}))
+DONE(LoginWorker::tryAutoLogin, (Text requestId, Text account, Text password, const AccountCallback &callback),
+     (account, password), host.autoLogins.append({requestId, account, callback}))
+ANSWERED(bool, LoginWorker::cancelAccountAutoLogin, (Text account), (account), true)
+UNRECORDED(QString, LoginWorker::getRecentlyLoggedInAccount(), host.recentAccount)
 
-WITHOUT_PRIVATE_STATE(SaasWorker)
-
-UNRECORDED(int, SaasWorker::getVerificationCodeRemainingSecs() const, fake().resendSeconds)
-DONE(SaasWorker::resetVerificationCodeRemainingSecs, (int seconds), (seconds), fake().resendSeconds = seconds)
-UNRECORDED(QString, saasErrorMsg(int code, int subCode), QStringLiteral("cloud error %1/%2").arg(code).arg(subCode))
-
-} // namespace kelvra_saas
+UNRECORDED(int, SaasWorker::getVerificationCodeRemainingSecs() const, host.resendSeconds)
+DONE(SaasWorker::resetVerificationCodeRemainingSecs, (int seconds), (seconds), host.resendSeconds = seconds)
+UNRECORDED(QString, kelvra_saas::saasErrorMsg(int code, int subCode),
+           QString("cloud error %1/%2").arg(code).arg(subCode))
 
 // What would block --------------------------------------------------------------------------------------------------
 
@@ -360,16 +251,15 @@ QString ZCOMMON::ZFileDialog::getOpenFileName(QWidget *parent, const QString &ca
                                               const QString &filter, QString *selectedFilter,
                                               QFileDialog::Options options)
 {
-    record("getOpenFileName", parent != nullptr, caption, directory, filter, selectedFilter != nullptr, int(options));
-    runOnce(fake().whileFileDialogIsOpen);
-    return fake().chosenFile;
+    recordedAs(__func__)(parent != nullptr, caption, directory, filter, selectedFilter != nullptr, int(options));
+    runOnce(host.whileFileDialogIsOpen);
+    return host.chosenFile;
 }
 
 kelvra_base::MessageBoxButton kelvra_base::ZMessageBox::warning(QWidget *parent, const QString &message, int buttons,
                                                                 bool flag)
 {
-    record("warning", parent ? parent->objectName() : QString(), message, buttons, flag);
-    fake().messageBoxes << message;
-    runOnce(fake().whileMessageBoxIsOpen);
+    recordedAs(__func__)(parent ? parent->objectName() : QString(), message, buttons, flag);
+    runOnce(host.whileMessageBoxIsOpen);
     return OkButton;
 }

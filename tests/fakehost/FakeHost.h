@@ -22,20 +22,15 @@ struct FakeHost
 {
     struct User
     {
-        QString password;
-        QString gesture;
+        QString password, gesture;
         int attribute = 0;
-        bool superUser = false;
-        bool hasRecord = false;
-        bool autoLogin = false;
+        bool superUser = false, hasRecord = false, autoLogin = false;
         QDateTime lastLogin;
     };
 
     struct AutoLoginCall
     {
-        QString requestId;
-        QString account;
-        QString password;
+        QString requestId, account;
         kelvra_saas::LoginWorker::AccountCallback answer;
     };
 
@@ -43,7 +38,6 @@ struct FakeHost
     struct QRCodeCall
     {
         QString requestId;
-        QString qrCodeId; // empty for a call that asks for a code
         Callback answer;
     };
 
@@ -62,10 +56,10 @@ struct FakeHost
     static QMap<int, QString> twelveQuestions();
 
     /** Back to the defaults below, with nothing recorded. */
-    void reset();
+    void reset() { *this = FakeHost(); }
 
     void record(const QString &operation, const QStringList &arguments);
-    /** The recorded calls whose operation is one of `operations`, in order; all calls when none is named. */
+    /** The recorded calls whose operation is one of `operations`, in order. */
     QStringList callsOf(const QStringList &operations) const;
     /** A user with a login record of `daysAgo` days ago. */
     User &rememberUser(const QString &name, const QString &password, int daysAgo = 1);
@@ -73,7 +67,7 @@ struct FakeHost
     QStringList calls;
 
     // Data library
-    bool firstLogin = false;
+    bool firstLogin = false, sameEnvironment = true, answersRight = false, credentialsValid = false;
     QMap<QString, User> users;
     QString lastLocalUser;
     bool lockKnown = true; // getLockInfo answers true
@@ -81,14 +75,9 @@ struct FakeHost
     int lockSeconds = 0;
     bool updatesSucceed = true;        // updateLockInfo stores and answers true
     bool gestureUpdatesSucceed = true; // updateUserGesture stores, it and deleteUserGesture answer true
-    bool addSuperUserSucceeds = true;
-    bool resetUserPwdSucceeds = true;
-    bool sameEnvironment = true;
-    bool answersRight = false;
+    bool addSuperUserSucceeds = true, resetUserPwdSucceeds = true;
     QString credentials; // what generateSuperUserCredentials answers
-    bool credentialsValid = false;
-    kelvra_data::SuperUserInfo superUser;
-    kelvra_data::SuperUserInfo addedSuperUser;
+    kelvra_data::SuperUserInfo superUser, addedSuperUser;
 
     // Worker library
     bool loginSuccess = false;
@@ -97,10 +86,8 @@ struct FakeHost
     QMap<QString, QVariant> settings;
     kelvra_worker::CustomizeInfo customization;
     int language = 0;
-    /** Each retranslation marks the texts with a stroke. */
-    QMap<int, QString> securityQuestions = twelveQuestions();
-    QVector<QPair<QString, QString>> alerts; // title, text
-    std::function<void()> whileAlertIsOpen;
+    QMap<int, QString> securityQuestions = twelveQuestions(); // each retranslation marks the texts with a stroke
+    QVector<QPair<QString, QString>> alerts;                  // title, text
 
     // Cloud library
     QString recentAccount;
@@ -113,7 +100,5 @@ struct FakeHost
 
     // What would block
     QString chosenFile;
-    std::function<void()> whileFileDialogIsOpen;
-    QStringList messageBoxes;
-    std::function<void()> whileMessageBoxIsOpen;
+    std::function<void()> whileAlertIsOpen, whileFileDialogIsOpen, whileMessageBoxIsOpen;
 };

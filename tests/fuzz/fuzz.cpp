@@ -4,7 +4,6 @@
 #include "client/kelvra_saas/AccountsFile.h"
 #include "client/kelvra_worker/CustomizeFile.h"
 #include "host/ZCommon/ZFileDialog.h"
-#include "host/kelvra_base/ZMessageBox.h"
 #include "host/kelvra_data/UserData.h"
 #include "login/frame/LoginWorker.h"
 #include "login/gesture/GesturePanel.h"
@@ -39,16 +38,16 @@ public:
     void credentials()
     {
         QTimer reader; // answers every alert
-        QObject::connect(&reader, &QTimer::timeout, [] {
-            if (const QWidget *alert = QApplication::activeModalWidget())
-                alert->findChild<QPushButton *>("okBt")->click();
+        QObject::connect(&reader, &QTimer::timeout, &reader, [] {
+            if (QWidget *alert = QApplication::activeModalWidget())
+                alert->close();
         });
         reader.start(0);
         expect(Store::_instance().open(at()) && UserData::_instance().addSuperUser(superUser("root", "roots")));
         QByteArray valid;
         QDataStream stream(&valid, QIODevice::WriteOnly);
         stream << UserData::_instance().generateSuperUserCredentials("root");
-        run(valid, [&] {
+        takeFiles(valid, [&] {
             const bool right = input.startsWith(valid) && input.size() <= 256; // what follows is not read
             expect(LoginWorker::_instance().importLoginCredentials("root") == right);
             return right;
@@ -58,28 +57,23 @@ public:
 
     void customisation()
     {
-        const QString path = dir->filePath("valid");
-        kelvra_worker::CustomizeFile(path).createIfMissing();
-        const QRegularExpression permission("^\\s*replace_superuser\\s*=.*(true|1)",
-                                            QRegularExpression::MultilineOption |
-                                                QRegularExpression::CaseInsensitiveOption);
-        const QRegularExpression openQuote("^[^;#\"\\\\\n]*\"[^;\"\\\\\n]*$", QRegularExpression::MultilineOption);
-        run(readFile(path).replace("superuser=false", "superuser=true"), [&] {
+        kelvra_worker::CustomizeFile(dir->filePath("valid")).createIfMissing();
+        const QRegularExpression permission("(*ANYCRLF)(?im)^\\s*replace_superuser\\s*=.*(true|1)");
+        const QRegularExpression openQuote("(*ANYCRLF)(?m)^[^;#\"\\\\\r\n]*\"[^;\"\\\\\r\n]*$");
+        takeFiles(readFile(dir->filePath("valid")).replace("superuser=false", "superuser=true"), [&] {
             kelvra_worker::CustomizeFile file(chosenFile);
-            QString error;
+            QString error, text = QString::fromUtf8(input);
             const bool ok = file.read(&error);
-            expect(ok == error.isEmpty() && (!ok || QString::fromUtf8(input).toUtf8() == input));
-            expect(!ok || !openQuote.match(QString::fromUtf8(input)).hasMatch());
-            expect(!file.isSuperUserReplaceable() || permission.match(QString::fromUtf8(input).remove('"')).hasMatch());
+            expect(ok == error.isEmpty() && (!ok || (text.toUtf8() == input && !openQuote.match(text).hasMatch())));
+            expect(!file.isSuperUserReplaceable() || permission.match(text.remove('"')).hasMatch());
             return ok;
         });
     }
 
     void accounts()
     {
-        const QString path = dir->filePath("valid");
-        kelvra_saas::AccountsFile(path).read();
-        run(readFile(path), [&] {
+        kelvra_saas::AccountsFile(dir->filePath("valid")).read();
+        takeFiles(readFile(dir->filePath("valid")), [&] {
             kelvra_saas::AccountsFile file(chosenFile);
             const bool ok = file.read();
             expect(ok == file.problem().isEmpty() && ok == !file.accounts().isEmpty());
@@ -87,21 +81,18 @@ public:
             for (const auto &account : file.accounts()) {
                 expect(kelvra_saas::isPhoneNumber(account.phone) && input.contains(account.phone.toUtf8()));
                 expect(account.password.size() >= 8 && input.contains(account.password.toUtf8()));
-                phones << account.phone;
+                expect(!std::exchange(phones, phones + QSet<QString>{account.phone}).contains(account.phone));
             }
-            expect(phones.size() == file.accounts().size());
             return ok;
         });
     }
 
     void key()
     {
-        const QString path = dir->filePath("valid");
         Vault vault;
-        expect(Vault::createKeyFile(path) && vault.unlock(path));
-        const QByteArray valid = readFile(path);
-        const QByteArray sealed = vault.seal("secret", "place");
-        run(valid, [&] {
+        expect(Vault::createKeyFile(dir->filePath("valid")) && vault.unlock(dir->filePath("valid")));
+        const QByteArray valid = readFile(dir->filePath("valid")), sealed = vault.seal("secret", "place");
+        takeFiles(valid, [&] {
             QString text;
             expect(vault.unlock(chosenFile) == (input.size() == Vault::keyFileBytes));
             expect(vault.open(sealed, "place", text) == (input == valid) && (text == "secret") == (input == valid));
@@ -123,44 +114,40 @@ public:
         QObject::connect(&pad, &GesturePanel::signalGesturePwd, [&](const QString &pwd) { given += pwd; });
         GestureDotSet taken;
         bool pressed = false, finished = false;
-        QPoint place;
-        for (int i = 0; i < count; ++i) {
+        QPoint place, last;
+        take([&](int) {
             const QPoint dot = dots[std::size_t(below(gestureDots))];
             place = below(3) == 0 ? QPoint(below(400) - 50, below(400) - 50) : dot + (dot - place) / 9;
-            static const QVector<QEvent::Type> kinds{QEvent::MouseButtonPress, QEvent::MouseButtonRelease,
-                                                     QEvent::MouseMove};
-            const QEvent::Type kind = kinds[qMin(2, below(20))];
+            const auto kind = QVector<QEvent::Type>{QEvent::MouseButtonPress, QEvent::MouseButtonRelease,
+                                                    QEvent::MouseMove}[qMin(2, below(20))];
             input = QString("%1 at %2,%3").arg(kind).arg(place.x()).arg(place.y()).toLatin1();
             QMouseEvent event(kind, place, Qt::LeftButton, Qt::LeftButton, {});
             QCoreApplication::sendEvent(&pad, &event);
-            if (kind == QEvent::MouseButtonPress && !finished && dotUnder(dots, place) != noGestureDot)
-                pressed = true;
+            pressed = pressed || (kind == QEvent::MouseButtonPress && !finished && dotUnder(dots, place) >= 0);
             if (kind == QEvent::MouseMove && pressed && !finished) {
-                const int next = digits.isEmpty()
-                                     ? dotUnder(dots, place)
-                                     : dotPassed(dots, taken, dots[std::size_t(digits.back().digitValue())], place);
+                const int next = taken.none() ? dotUnder(dots, place) : dotPassed(dots, taken, last, place);
                 if (next != noGestureDot) {
+                    last = dots[std::size_t(next)];
                     taken.set(std::size_t(next));
                     digits += QString::number(next);
                 }
             }
-            const bool handsOut = kind == QEvent::MouseButtonRelease && !finished && !digits.isEmpty();
-            expect(given == (handsOut ? digits : QString()));
-            accepted += handsOut;
+            const bool handsOut = kind == QEvent::MouseButtonRelease && !finished && taken.any();
+            expect(std::exchange(given, {}) == (handsOut ? digits : QString()));
             finished = finished || handsOut;
-            given.clear();
             if (handsOut && below(2) == 0)
                 pad.setError();
-            if (below(30) > 0)
-                continue;
-            now += 700; // longer than a gesture stays on show
-            QCoreApplication::processEvents();
-            if (std::exchange(finished, false)) {
-                pressed = false;
-                digits.clear();
-                taken.reset();
+            if (below(30) == 0) {
+                now += 700; // longer than a gesture stays on show
+                QCoreApplication::processEvents();
+                if (std::exchange(finished, false)) {
+                    pressed = false;
+                    digits.clear();
+                    taken.reset();
+                }
             }
-        }
+            return handsOut;
+        });
     }
 
     int accepted = 0;
@@ -176,22 +163,29 @@ private:
         std::_Exit(1);
     }
 
-    /** Puts each input into a file of its own; `take` tells whether it was accepted. */
-    template <typename Take>
-    void run(const QByteArray &valid, const Take &take)
+    /** `one` takes an input and tells whether it was accepted. */
+    template <typename One>
+    void take(const One &one)
     {
         for (int i = 0; i < count; ++i) {
             if (i % 1000 == 0)
                 alarm(hangSeconds);
-            input = mutated(valid);
-            chosenFile = dir->filePath(QString::number(i)); // settings are remembered by the name of their file
-            QFile file(chosenFile);
-            expect(file.open(QIODevice::WriteOnly) && file.write(input) == input.size());
-            file.close();
-            accepted += take();
-            expect(readFile(chosenFile) == input);
-            file.remove();
+            accepted += one(i);
         }
+    }
+
+    /** Puts each input into a file of its own: settings are remembered by the name of their file. */
+    template <typename One>
+    void takeFiles(const QByteArray &valid, const One &one)
+    {
+        take([&](int number) {
+            input = mutated(valid);
+            chosenFile = dir->filePath(QString::number(number));
+            writeFile(chosenFile, input);
+            const bool right = one();
+            expect(readFile(chosenFile) == input && QFile::remove(chosenFile));
+            return right;
+        });
     }
 
     /** Noise, or the valid input with a few things done to it, or none. */
@@ -204,25 +198,16 @@ private:
             random.generate(data.begin(), data.end());
         }
         for (int changes = below(6); changes > 0; --changes) {
-            const int place = below(data.size() + 1);
+            const int place = below(4) == 0 ? data.size() : below(data.size() + 1);
             const int length = 1 + below(below(4) == 0 ? 200 : 8);
-            switch (below(6)) {
-            case 0:
-                data.remove(place, length);
-                break;
-            case 1:
-                data.insert(place, data.mid(below(data.size() + 1), length));
-                break;
-            case 2:
-                data.insert(place, words.at(below(words.size())));
-                break;
-            case 3:
-                data.append(length, char(below(256)));
-                break;
-            default: // one bit, or any other byte
-                if (place < data.size())
-                    data[place] = char(below(2) == 0 ? data[place] ^ (1 << below(8)) : below(256));
-            }
+            const QByteArray put[] = {{},
+                                      data.mid(below(data.size() + 1), length),
+                                      words.at(below(words.size())),
+                                      QByteArray(length, char(below(256))),
+                                      QByteArray(1, char(below(256))),
+                                      QByteArray(1, char(data.constData()[place] ^ (1 << below(8))))};
+            const int kind = below(6);
+            data.replace(place, kind == 0 || below(4) == 0 ? length : below(2) * put[kind].size(), put[kind]);
         }
         return data;
     }
@@ -235,35 +220,28 @@ private:
 } // namespace
 
 // What would wait for a person.
-
 QString ZCOMMON::ZFileDialog::getOpenFileName(QWidget *, const QString &, const QString &, const QString &, QString *,
                                               QFileDialog::Options)
 {
     return chosenFile;
 }
 
-kelvra_base::MessageBoxButton kelvra_base::ZMessageBox::warning(QWidget *, const QString &, int, bool)
-{
-    return OkButton;
-}
-
 int main(int argc, char **argv)
 {
     QApplication app(argc, argv);
     QLoggingCategory::setFilterRules("default.warning=false"); // of a platform without windows
-    const QStringList arguments = app.arguments();
-    const QMap<QString, void (Fuzz::*)()> targets{{"credentials", &Fuzz::credentials},
-                                                  {"customisation", &Fuzz::customisation},
-                                                  {"accounts", &Fuzz::accounts},
-                                                  {"key", &Fuzz::key},
-                                                  {"gesture", &Fuzz::gesture}};
-    for (const QString &target : targets.keys()) {
-        if (arguments.value(1, "all") != "all" && arguments[1] != target)
+    const QString wanted = app.arguments().value(1, "all");
+    const int count = app.arguments().value(2, "2000").toInt(), seed = app.arguments().value(3, "1").toInt();
+    for (const auto &[name, target] : {std::pair("credentials", &Fuzz::credentials),
+                                       {"customisation", &Fuzz::customisation},
+                                       {"accounts", &Fuzz::accounts},
+                                       {"key", &Fuzz::key},
+                                       {"gesture", &Fuzz::gesture}}) {
+        if (wanted != "all" && wanted != name)
             continue;
-        const int count = arguments.value(2, "2000").toInt();
-        Fuzz fuzz(count, arguments.value(3, "1").toInt());
-        (fuzz.*targets[target])();
-        std::printf("%s: %d of %d inputs accepted\n", qPrintable(target), fuzz.accepted, count);
+        Fuzz fuzz(count, seed);
+        (fuzz.*target)();
+        std::printf("%s: %d of %d inputs accepted\n", name, fuzz.accepted, count);
         if (fuzz.accepted == 0)
             return 1; // nothing has been tried then
     }

@@ -1,4 +1,5 @@
-// Sends random real events to the module with the fake host and checks after each what must always be true.
+// Sends random real events to the module with the fake host and checks after each what must always be true:
+// monkey [EVENTS [SEED]]
 #include "TestTools.h"
 #include "VirtualClock.h"
 #include "host/kelvra_contact/SystemMsg.h"
@@ -55,21 +56,10 @@ struct Watch
                                              call == QString("verifyUserGesture(%1,%2)").arg(name, user.gesture));
     }
 
-    void enter(const QString &name, bool password)
-    {
-        const bool automatic = name == host.lastLocalUser && host.users.value(name).autoLogin && host.sameEnvironment &&
-                               LoginWorker::_instance().isAutoLoginAllowed();
-        road = password ? "password" : "gesture";
-        expect(!locked, "login by " + road + " while locked");
-        expect(password ? isRight(previous, name) : isRecent(drawn.value(name)) || automatic, "nobody verified it");
-    }
-
     void lock(bool on, qint64 end)
     {
-        if (on)
-            expect(failures >= maxFailures || (locked && end >= lockEnd), "locked for nothing or for less than before");
-        else
-            expect(!locked || now >= lockEnd || previous.startsWith("updateUserLoginRecord("), "unlocked early");
+        expect(!on || failures >= maxFailures || (locked && end >= lockEnd), "locked for nothing or for less");
+        expect(on || !locked || now >= lockEnd || previous.startsWith("updateUserLoginRecord("), "unlocked early");
         seen["locks"] += on && !locked;
         lockEnd = on && !locked ? end : lockEnd;
         failures = on || end > now ? failures : 0; // an expired lock is stored with some seconds
@@ -82,21 +72,27 @@ struct Watch
         const QString deed = call.section('(', 0, 0);
         const QStringList said = call.section('(', 1).chopped(1).split(',');
         const QString name = said.first();
+        const bool right = isRight(call, name);
         if (deed != "translate")
             trace << "    -> " + call;
         if (deed.startsWith("verifyUser")) {
-            failures += !isRight(call, name);
-            ++seen[isRight(call, name) ? "right " + deed : "wrong " + deed];
-            if (deed == "verifyUserGesture" && !locked && isRight(call, name))
+            failures += !right;
+            ++seen[(right ? "right " : "wrong ") + deed];
+            if (deed == "verifyUserGesture" && !locked && right)
                 drawn[name] = now;
         } else if (deed == "loginSuccessLog") {
-            enter(name, said.value(1) == "0");
+            road = said.value(1) == "0" ? "password" : "gesture";
+            const bool automatic = name == host.lastLocalUser && host.users.value(name).autoLogin &&
+                                   host.sameEnvironment && LoginWorker::_instance().isAutoLoginAllowed();
+            expect(!locked, "login by " + road + " while locked");
+            expect(road == "password" ? isRight(previous, name) : isRecent(drawn.value(name)) || automatic,
+                   "nobody verified it");
         } else if (deed == "loginFailureLog") {
             mustLock = failures >= maxFailures;
         } else if (deed == "updateLockInfo") {
             lock(name == "true", now + 1000 * said.value(1).toInt());
-        } else if (deed == "verifySuperUserAnswers" ? host.answersRight
-                                                    : deed == "checkSuperUserCredentials" && host.credentialsValid) {
+        } else if ((deed == "verifySuperUserAnswers" && host.answersRight) ||
+                   (deed == "checkSuperUserCredentials" && host.credentialsValid)) {
             recovered << name;
         } else if (deed == "resetUserPwdLog" || deed == "getbackPwdLog" || deed == "createUserLog") {
             expect(deed == "createUserLog" || recovered.contains(name), "a password without answers or credentials");
@@ -107,8 +103,7 @@ struct Watch
             road = "shell";
         } else if (deed == "setLoginSuccess") {
             expect(!road.isEmpty() && name == "true", "logged in out of nowhere");
-            expect(!loggedIn, "logged in over another login");
-            expect(!quit, "logged in after the end");
+            expect(!loggedIn && !quit, "logged in over another login or after the end");
             ++seen[std::exchange(road, QString())];
             loggedIn = true;
         }
@@ -119,8 +114,7 @@ struct Watch
 /** A question to the cloud. It is answered at any time, rightly or not, as often as the monkey likes. */
 struct Question
 {
-    QString id;
-    QString kind;
+    QString id, kind;
     std::function<void(const Response &)> answer;
     bool answered = false;
 };
@@ -129,7 +123,6 @@ class Monkey
 {
 public:
     Monkey()
-        : random(seed)
     {
         QObject::connect(&messages, &kelvra_contact::SystemMsg::signalQuitSystem, qApp, [this] { watch.quit = true; });
         expect(credentials.open() && credentials.write(QByteArray(150, 'c')) == 150 && credentials.flush(), "no file");
@@ -222,16 +215,12 @@ private:
             once("time", [this] { pass(1 + below(chance(20) ? 3000 : 200), 50); });
         else if (what < 42)
             once("language", [this] { brackets.reset(brackets ? nullptr : new Brackets); });
+        else if (what < 43)
+            once("gateway", [this] { emit messages.signalDgwAbnormal(chance(50) ? "broken" : ""); });
+        else if (what < 46)
+            once("started again", [this] { emit messages.signalClientRepeatedStart(); });
         else if (what < 51)
-            once("host", [this] {
-                const int signal = below(20);
-                if (signal == 0)
-                    emit messages.signalDgwAbnormal(chance(50) ? "broken" : "");
-                else if (signal < 8)
-                    emit messages.signalClientRepeatedStart();
-                else
-                    emit resend.signalGetVerificationCodeRemainingSecs(below(61));
-            });
+            once("resend", [this] { emit resend.signalGetVerificationCodeRemainingSecs(below(61)); });
         else if (what < 52)
             once("lock time", [this] { pass(1000 * lockSecondsOnFailure + 2000, 50000); });
         else if (what < 53 && depth == 0)
@@ -249,22 +238,23 @@ private:
         const Parts fields = visible("LineEdit$");
         const Parts parts = visible("Button|MethodBt|CheckBox|ComboBox|LinkLabel|List");
         const Parts dots = visible("GesturePoint");
-        if (what < 25 && dots.size() == 9) {
+        if (what < 25 && dots.size() == 9)
             draw(dots);
-        } else if (what < 35 && !parts.isEmpty()) {
+        else if (what < 35 && !parts.isEmpty())
             click(pick(parts));
-        } else if (what < 38) {
+        else if (what < 38)
             stroke({anywhere(top), anywhere(top), anywhere(top)});
-        } else if (what < 54 && !fields.isEmpty()) {
-            what < 48 ? fillIn(fields) : type(pick(fields), pick("root roots anna 13912345678 123456 x"));
-        } else if (what < 56) {
-            QGuiApplication::clipboard()->setText(pick("root anna 123456"));
-            key("Ctrl+V");
-        } else {
-            key(below(200) == 0 ? "Esc"
-                                : pick("Tab Shift+Backtab Return Num+Enter Backspace Del Shift+Left Home Down Space "
-                                       "Ctrl+A Ctrl+C Ctrl+X Ctrl+Z Alt+L Alt+F8 Alt+1 Alt+2 Alt+3 CapsLock"));
-        }
+        else if (what < 48 && !fields.isEmpty())
+            fillIn(fields);
+        else if (what < 54 && !fields.isEmpty())
+            type(pick(fields), pick("root roots anna 13912345678 123456 x"));
+        else if (what < 56)
+            once("clipboard", [this] { QGuiApplication::clipboard()->setText(pick("root anna 123456")); });
+        else
+            key(below(200) == 0
+                    ? "Esc"
+                    : pick("Tab Shift+Backtab Return Num+Enter Backspace Del Shift+Left Home Down Space "
+                           "Ctrl+A Ctrl+C Ctrl+V Ctrl+V Ctrl+X Ctrl+Z Alt+L Alt+F8 Alt+1 Alt+2 Alt+3 CapsLock"));
     }
 
     Parts visible(const char *classes)
@@ -323,11 +313,10 @@ private:
     void key(const QString &name, const QString &text = {})
     {
         once("key " + name, [&] {
-            const int code = QKeySequence(name)[0];
-            const Qt::KeyboardModifiers modifiers(code & int(Qt::KeyboardModifierMask));
+            const int code = QKeySequence(name)[0], modifiers = code & int(Qt::KeyboardModifierMask);
             for (const auto event : {QEvent::KeyPress, QEvent::KeyRelease}) {
                 if (QWindow *window = QGuiApplication::focusWindow())
-                    qt_handleKeyEvent(window, event, code & ~int(Qt::KeyboardModifierMask), modifiers, text);
+                    qt_handleKeyEvent(window, event, code - modifiers, Qt::KeyboardModifiers(modifiers), text);
             }
         });
     }
@@ -482,7 +471,7 @@ private:
         expect(image != plain, stack->currentWidget()->objectName() + " is blank");
     }
 
-    QRandomGenerator random;
+    QRandomGenerator random{seed};
     kelvra_contact::SystemMsg &messages = kelvra_contact::SystemMsg::_instance();
     kelvra_saas::SaasWorker &resend = kelvra_saas::SaasWorker::_instance();
     QTemporaryFile credentials;
@@ -499,15 +488,11 @@ private:
 int main(int argc, char **argv)
 {
     QApplication app(argc, argv);
-    QCommandLineParser parser;
-    parser.addOptions({{"seed", "Which sequence of events.", "N", "1"}, {"events", "How many.", "M", "100000"}});
-    parser.addHelpOption();
-    parser.process(app);
-    seed = parser.value("seed").toUInt();
+    seed = app.arguments().value(2, "1").toUInt();
     for (const int number : {SIGSEGV, SIGABRT, SIGFPE, SIGALRM})
         std::signal(number, [](int signal) { fail(QString("signal %1").arg(signal)); });
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &text) {
         expect(text.startsWith("This plugin does not support"), "Qt says: " + text);
     });
-    Monkey().run(parser.value("events").toInt());
+    Monkey().run(app.arguments().value(1, "100000").toInt());
 }
