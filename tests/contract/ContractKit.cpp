@@ -4,10 +4,13 @@
 #include "host/ZCommon/PEWidget.h"
 #include "host/ZCommon/SmoothProgress.h"
 #include "host/ZCommon/ToolsCollection.h"
+#include "host/ZCommon/ZLabel.h"
 #include "host/ZCommon/ZLineEdit.h"
 #include "host/ZCommon/ZWidget.h"
+#include "host/kelvra_base/BaseTools.h"
 #include "host/kelvra_base/ComboBox.h"
 #include "host/kelvra_base/CommonDialog.h"
+#include "host/kelvra_base/LogoLabel.h"
 #include "host/kelvra_base/PwdStrengthWt.h"
 #include "host/kelvra_base/ZMessageBox.h"
 #include "host/kelvra_contact/SystemMsg.h"
@@ -22,6 +25,7 @@
 #include "host/kelvra_worker/UiSettings.h"
 #include "tests/contract/HostSetup.h"
 
+#include <QScreen>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -227,6 +231,16 @@ private slots:
         edit.setFocus();
         edit.clearFocus();
         QVERIFY(focus.size() >= 2 && focus[focus.size() - 2][0] == true && focus.last()[0] == false);
+
+        ZCOMMON::ZLabel label(&dialog);
+        label.setText(QString(200, 'x'));
+        label.resize(60, 20);
+        label.show();
+        QTRY_VERIFY(label.minimumSizeHint().width() < 60 && label.toolTip() == QString(200, 'x'));
+        const QRect place(kelvra_base::BaseTools::defaultPos(&dialog), dialog.size()),
+            screen = dialog.screen()->geometry();
+        QVERIFY(screen.contains(place) && qAbs(place.center().x() - screen.center().x()) < dialog.width() / 2);
+        QVERIFY(!kelvra_base::LogoLabel(&dialog).size().isEmpty());
 
         kelvra_base::CommonDialog common(nullptr, 0, 1);
         common.show();
