@@ -71,7 +71,8 @@ function(kelvra_install_package)
     endforeach()
     configure_package_config_file(
         cmake/kelvra_login-config.cmake.in ${CMAKE_CURRENT_BINARY_DIR}/kelvra_login-config.cmake
-        INSTALL_DESTINATION ${KELVRA_INSTALL_CMAKEDIR} PATH_VARS KELVRA_INSTALL_DATADIR
+        INSTALL_DESTINATION ${KELVRA_INSTALL_CMAKEDIR}
+        PATH_VARS KELVRA_INSTALL_INCLUDEDIR KELVRA_INSTALL_DATADIR
     )
     write_basic_package_version_file(
         ${CMAKE_CURRENT_BINARY_DIR}/kelvra_login-config-version.cmake COMPATIBILITY SameMajorVersion

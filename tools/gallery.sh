@@ -54,7 +54,7 @@ show() {
 }
 
 mkdir -p "$screens"
-rm -f "$screens"/*.png
+find "$screens" -name "*.png" ! -name "windows-*" -delete
 cat >"$gallery" <<'END'
 # Gallery
 

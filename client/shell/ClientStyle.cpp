@@ -63,9 +63,7 @@ void ClientStyle::install(QApplication &application)
 {
     const QPalette palette = createPalette();
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-    QApplication::setFont(createFont());
     QApplication::setPalette(palette);
-    QToolTip::setFont(QApplication::font());
     QToolTip::setPalette(palette);
 
     QFile sheet(QStringLiteral(":/style/kelvra_client.qss"));
@@ -73,6 +71,11 @@ void ClientStyle::install(QApplication &application)
         application.setStyleSheet(QString::fromUtf8(sheet.readAll()));
     else
         qWarning("The client's style sheet is missing: %s", qUtf8Printable(sheet.errorString()));
+
+    // Last: a style sheet brings back the fonts that the system has for lists, menus and the like, which this takes
+    // away.
+    QApplication::setFont(createFont());
+    QToolTip::setFont(QApplication::font());
 }
 
 } // namespace kelvra_client

@@ -12,6 +12,7 @@
 #include <QFile>
 #include <QFont>
 #include <QLabel>
+#include <QPalette>
 #include <QTextStream>
 #include <QTimer>
 
@@ -22,15 +23,18 @@ namespace {
 
 void useStyle()
 {
+    // Buttons and windows are dark, so that texts come out light.
+    QApplication::setPalette(QPalette(QColor(0x1e, 0x2a, 0x42), QColor(0x14, 0x1d, 0x30)));
+
+    QFile sheet(QStringLiteral(":/style/kelvra_client.qss"));
+    if (sheet.open(QIODevice::ReadOnly))
+        qApp->setStyleSheet(QString::fromUtf8(sheet.readAll()));
+
     // The forms ask for "microsoft yahei"; this stands in for it where it is not installed.
     QFont::insertSubstitution(QStringLiteral("microsoft yahei"), QStringLiteral("Open Sans"));
     QFont font(QStringLiteral("microsoft yahei"));
     font.setPixelSize(13);
     QApplication::setFont(font);
-
-    QFile sheet(QStringLiteral(":/style/kelvra_client.qss"));
-    if (sheet.open(QIODevice::ReadOnly))
-        qApp->setStyleSheet(QString::fromUtf8(sheet.readAll()));
 }
 
 /** What a client does once somebody is in: it loads, tells how far it is, and shows its window. */

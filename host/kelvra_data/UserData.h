@@ -35,7 +35,10 @@ public:
     bool isUserExist(const QString &name);
     /** Whether that user is a superuser: only for those "Forgot?" leads to the recovery of the password. */
     bool isSuperUser(const QString &name);
-    /** Whether a local user of this role exists; the module asks for SuperUserRole only. */
+    /**
+     * Whether a local user of this role exists; the module asks for SuperUserRole only. An adopted cloud account does
+     * not count: a local superuser can still be created.
+     */
     bool isSuperUserExist(UserRole role);
 
     /** The user of that name; UserInfo::name is empty when there is none. */
@@ -88,7 +91,10 @@ public:
     /** Takes the gesture of `name` away; false when there was none. */
     bool deleteUserGesture(const QString &name);
 
-    /** Creates the local superuser; false when one exists already or the record is not usable. */
+    /**
+     * Creates the local superuser; false when one exists already or the record is not usable. For the choice "Use
+     * Default Superuser" the module passes "admin" with the password "468024", which no password rule may refuse.
+     */
     bool addSuperUser(const SuperUserInfo &info);
 
     /** Adopts a cloud account as superuser at its first login on this client. */
