@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Platform.h"
 #include "host/kelvra_data/SuperUserInfo.h"
 #include "host/kelvra_data/UserRole.h"
 
@@ -8,12 +9,6 @@
 #include <QtTest>
 
 #include <memory>
-
-#ifdef Q_OS_WIN
-constexpr bool isWindows = true;
-#else
-constexpr bool isWindows = false;
-#endif
 
 /** What the programs share that keep a data folder. init() of each makes `dir` anew. */
 class DataFolderTest : public QObject

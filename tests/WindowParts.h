@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Platform.h"
+
 #include <QtTest>
 #include <QtWidgets>
 

@@ -210,7 +210,7 @@ private slots:
             QVERIFY(!child("setOwnGestureBt")->isEnabled());
             QVERIFY(child("setOwnGestureBt")->toolTip().contains("cloud account"));
             QCOMPARE(child<QCheckBox>("autoLoginSwitch")->isEnabled(), on);
-            click("autoLoginSwitch", QPoint(10, 10));
+            click("autoLoginSwitch", QPoint(10, child("autoLoginSwitch")->height() / 2));
             QVERIFY(!users.isUserAutoLogin("13800001111"));
         }
         QCOMPARE(auditEvents(), QStringList("cancel automatic login 13800001111"));

@@ -68,6 +68,7 @@ private slots:
 
     void init()
     {
+        store.close();
         warnings.clear();
         dir = std::make_unique<QTemporaryDir>();
         QVERIFY(reopen());

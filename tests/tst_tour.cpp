@@ -27,7 +27,7 @@ private slots:
         program.start(KELVRA_CLIENT_PROGRAM, {"--tour", tour.path()});
         const bool ended = program.waitForFinished(tourTimeoutMs);
         QFile text(tour.filePath("tour.txt"));
-        QVERIFY(text.open(QIODevice::ReadOnly));
+        QVERIFY(text.open(QIODevice::ReadOnly | QIODevice::Text));
         const QStringList lines = QString::fromUtf8(text.readAll()).split('\n', Qt::SkipEmptyParts);
         const QStringList failures = lines.filter(QRegularExpression("^(?!.*\\| ok$)"));
         QVERIFY2(failures.isEmpty(), qPrintable(failures.join('\n')));

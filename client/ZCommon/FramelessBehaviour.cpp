@@ -5,7 +5,25 @@
 #include <QWidget>
 #include <QWindow>
 
+#ifdef Q_OS_WIN
+#    include <qt_windows.h>
+#endif
+
 namespace ZCOMMON {
+
+namespace {
+
+/** Windows drags until the mouse button comes up, so not at all for a press that was a finger's or a pen's. */
+bool canSystemDrag()
+{
+#ifdef Q_OS_WIN
+    return GetAsyncKeyState(GetSystemMetrics(SM_SWAPBUTTON) != 0 ? VK_RBUTTON : VK_LBUTTON) < 0;
+#else
+    return true;
+#endif
+}
+
+} // namespace
 
 FramelessBehaviour::FramelessBehaviour(QWidget *draggedWindow)
     : window(draggedWindow)
@@ -31,7 +49,7 @@ bool FramelessBehaviour::move(const QMouseEvent *event)
     }
     // The window system snaps to edges and moves across screens better than we can, and then keeps the release.
     QWindow *const handle = window->windowHandle();
-    if (handle && handle->startSystemMove())
+    if (canSystemDrag() && handle && handle->startSystemMove())
         cancelDrag();
     else
         window->move(event->globalPos() - grip);

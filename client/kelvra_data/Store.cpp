@@ -1,5 +1,6 @@
 #include "client/kelvra_data/Store.h"
 
+#include "client/kelvra_data/OwnerFolder.h"
 #include "client/kelvra_data/Schema.h"
 #include "client/kelvra_data/Transaction.h"
 #include "client/kelvra_data/Vault.h"
@@ -20,7 +21,6 @@ constexpr int sqliteCorrupt = 11;
 constexpr int sqliteNotADatabase = 26;
 
 constexpr QFile::Permissions ownerFile = QFile::ReadOwner | QFile::WriteOwner;
-constexpr QFile::Permissions ownerFolder = ownerFile | QFile::ExeOwner;
 
 const QString connectionName = QStringLiteral("kelvra_data");
 const QString databaseFile = QStringLiteral("kelvra.db");
@@ -98,7 +98,7 @@ bool Store::open(const QString &folder, QString *error)
 QString Store::openFiles(const QString &folder, bool *created)
 {
     const bool newFolder = !QFileInfo::exists(folder);
-    if (folder.isEmpty() || !QDir().mkpath(folder) || (newFolder && !QFile::setPermissions(folder, ownerFolder)))
+    if (folder.isEmpty() || !QDir().mkpath(folder) || (newFolder && !OwnerFolder::closeToOthers(folder)))
         return tr("The data folder %1 cannot be created.").arg(QDir::toNativeSeparators(folder));
 
     // Made here rather than by SQLite: the files that SQLite puts beside it get its permissions.

@@ -80,7 +80,7 @@ std::optional<QString> PasswordInput::read(QString *error)
 {
     Buffer buffer;
     {
-        const QuietTerminal terminal;
+        [[maybe_unused]] const QuietTerminal terminal;
         readLine(&buffer);
     }
     if (buffer.size == 0) {

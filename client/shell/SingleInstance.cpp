@@ -1,5 +1,7 @@
 #include "client/shell/SingleInstance.h"
 
+#include "client/kelvra_data/OwnerFolder.h"
+
 #include <QCryptographicHash>
 #include <QDir>
 #include <QElapsedTimer>
@@ -25,7 +27,6 @@ constexpr int hashCharacters = 32;   // the path of a socket may not be long
 constexpr char answer = '1';
 
 constexpr QFile::Permissions ownerFile = QFile::ReadOwner | QFile::WriteOwner;
-constexpr QFile::Permissions ownerFolder = ownerFile | QFile::ExeOwner;
 const QString lockFile = QStringLiteral("kelvra.lock");
 
 QByteArray userId()
@@ -86,7 +87,7 @@ bool SingleInstance::prepareFolder(QString *error)
     const bool missing = !QFileInfo::exists(folder);
     folderMade |= missing && QDir().mkpath(folder);
     const QFileInfo info(folder);
-    if (!info.isDir() || (missing && !QFile::setPermissions(folder, ownerFolder))) {
+    if (!info.isDir() || (missing && !kelvra_data::OwnerFolder::closeToOthers(folder))) {
         *error = missing ? tr("The data folder %1 cannot be created.").arg(shownFolder())
                          : tr("The data folder %1 is not a folder.").arg(shownFolder());
         return false;

@@ -87,7 +87,9 @@ QStringList Tour::reportsOf(int index, const TourStage &stage, QString *end) con
     *end = failureOf(program);
 
     QStringList reports;
-    for (const QString &line : QString::fromUtf8(program.readAllStandardOutput()).split(QLatin1Char('\n'))) {
+    QString output = QString::fromUtf8(program.readAllStandardOutput());
+    output.remove(QLatin1Char('\r')); // which end each line on Windows
+    for (const QString &line : output.split(QLatin1Char('\n'))) {
         if (line.startsWith(TourDriver::reportMark))
             reports.append(line.mid(TourDriver::reportMark.size() + 1));
     }

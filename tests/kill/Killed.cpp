@@ -115,7 +115,7 @@ int killClients(int times)
         QThread::usleep(ulong(below(longestLifeUs / (first ? 5 : 1)))); // the first while the folder is made
         client.kill();
         client.waitForFinished();
-        const QStringList said = QString(client.readAllStandardOutput()).split('\n', Qt::SkipEmptyParts);
+        const QStringList said = QString(client.readAllStandardOutput()).remove('\r').split('\n', Qt::SkipEmptyParts);
         const int done = said.count("done");
         const bool inAct = said.size() > 1 && said.last() != "done";
         known = done ? said[2 * done - 1] : first ? State().text() : known;
