@@ -79,7 +79,11 @@ private slots:
         folder = std::make_unique<QTemporaryDir>();
         QVERIFY(HostSetup::open(qEnvironmentVariable(folderVariable, folder->path())));
     }
-    void cleanup() { HostSetup::close(), qunsetenv(folderVariable); }
+    void cleanup()
+    {
+        HostSetup::close();
+        qunsetenv(folderVariable);
+    }
 
     void nobodyIsThereAtFirst()
     {
