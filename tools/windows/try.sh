@@ -52,7 +52,7 @@ for name in $(ctest --test-dir "$folder" -N | sed -n 's/^ *Test *#[0-9]*: //p');
         verdict=FAILED
         failed=$((failed + 1))
     }
-    figures=$(tr -d '\r' <"$log" | sed -n 's/^[0-9]*: Totals: \(.*\), 0 blacklisted.*/\1/p' | head -n 1)
+    figures=$(tr -d '\r' <"$log" | sed -n 's/^[0-9]*: Totals: \(.*\), 0 blacklisted.*/\1/p' | tail -n 1)
     printf '%-8s%-20s%s\n' $verdict "$name" "$figures"
     [ $verdict = ok ] || tr -d '\r' <"$log" | grep -E -A 3 '^[0-9]*: (FAIL!|XPASS|QFATAL)|Timeout|Exception' | head -n 40 || true
 done
