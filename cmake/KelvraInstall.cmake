@@ -17,7 +17,6 @@ endif()
 function(kelvra_describe target)
     if(WIN32)
         get_target_property(type ${target} TYPE)
-        set(file_type $<IF:$<STREQUAL:${type},EXECUTABLE>,VFT_APP,VFT_DLL>)
         set(description "kelvra_client: ${target}")
         if(target STREQUAL "kelvra_login")
             set(description "kelvra_login: login of a video-management client")
@@ -33,7 +32,7 @@ function(kelvra_describe target)
     endif()
 endfunction()
 
-# kelvra_install_library(<target> <component> [<include directory> <header>...])
+# kelvra_install_library(<target> <component> [<header>...])
 # Installs a shared library, versioned, with its part of the CMake package; the headers are given from the root of the
 # tree, as they are included.
 function(kelvra_install_library target component)
