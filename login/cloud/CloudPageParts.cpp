@@ -29,20 +29,20 @@ QString translated(const char *text)
 
 } // namespace
 
-void setUpPhoneField(QWidget *page, UserNameWt *field)
+void setUpPhoneField(QWidget *page, UserNameWt *field, Handlers &handlers)
 {
     ZCOMMON::ZLineEdit *number = field->lineEdit();
     setPhonePlaceholder(field);
     number->setAttribute(Qt::WA_InputMethodEnabled, false);
     number->setValidator(new QRegExpValidator(QRegExp(QStringLiteral("^1[0-9]{10}$")), number));
     field->setText(kelvra_saas::LoginWorker::_instance().getRecentlyLoggedInAccount());
-    followFocus(page, field);
+    followFocus(field, handlers);
 
     auto &hub = LoginSignals::_instance();
-    QObject::connect(number, &QLineEdit::textChanged, page, [page](const QString &text) {
+    handlers.connect(number, &QLineEdit::textChanged, [page](const QString &text) {
         emit LoginSignals::_instance().signalSaasAccountEditingFinished(page, text);
     });
-    QObject::connect(&hub, &LoginSignals::signalSaasAccountEditingFinished, page,
+    handlers.connect(&hub, &LoginSignals::signalSaasAccountEditingFinished,
                      [page, number](const QWidget *fromWt, const QString &account) {
                          // The other page answers what it is told: set again, the same text would move the cursor.
                          if (fromWt != page && number->text() != account)
@@ -50,11 +50,11 @@ void setUpPhoneField(QWidget *page, UserNameWt *field)
                      });
 }
 
-void handFocusOn(QWidget *page, UserNameWt *field, QWidget *secret)
+void handFocusOn(QWidget *page, UserNameWt *field, QWidget *secret, Handlers &handlers)
 {
     const auto choose = [page, field, secret] { page->setFocusProxy(field->text().isEmpty() ? field : secret); };
     choose();
-    QObject::connect(field->lineEdit(), &QLineEdit::textChanged, page, choose);
+    handlers.connect(field->lineEdit(), &QLineEdit::textChanged, choose);
 }
 
 void setPhonePlaceholder(UserNameWt *field)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/ZCommon/ZLineEdit.h"
+#include "login/common/Handlers.h"
 #include "login/local/FieldStyle.h"
 
 #include <QString>
@@ -27,19 +28,19 @@ class UserNameWt;
  * Makes `field` the phone number field of `page`: it takes eleven digits, holds the account that logged in last at
  * first, and is kept in step with the fields of the other pages.
  */
-void setUpPhoneField(QWidget *page, UserNameWt *field);
+void setUpPhoneField(QWidget *page, UserNameWt *field, Handlers &handlers);
 /** From now on `page` hands the keyboard focus on: to `field` while it is empty, then to `secret`. */
-void handFocusOn(QWidget *page, UserNameWt *field, QWidget *secret);
+void handFocusOn(QWidget *page, UserNameWt *field, QWidget *secret, Handlers &handlers);
 /** Sets the field's placeholder, in the language in force. */
 void setPhonePlaceholder(UserNameWt *field);
 /** Whether the field holds a number of the right length; if not, a tip at the field says so. */
 bool checkPhoneNumber(UserNameWt *field);
 
-/** Highlights `field` while it has the keyboard focus. `page` disconnects its line edit before the form goes. */
+/** Highlights `field` while it has the keyboard focus. */
 template <typename Field>
-void followFocus(QWidget *page, Field *field)
+void followFocus(Field *field, Handlers &handlers)
 {
-    QObject::connect(field->lineEdit(), &ZCOMMON::ZLineEdit::signalFocusEvent, page,
+    handlers.connect(field->lineEdit(), &ZCOMMON::ZLineEdit::signalFocusEvent,
                      [field](bool focused) { field->setState(focused ? FieldFocused : FieldNormal); });
 }
 

@@ -3,6 +3,7 @@
 #include "host/kelvra_saas/LoginWorker.h"
 #include "host/kelvra_saas/SaasErrorMsg.h"
 #include "login/cloud/QRCodeMaskWt.h"
+#include "login/common/Form.h"
 #include "login/frame/Alerts.h"
 #include "login/frame/CloudAnswer.h"
 #include "ui_QRCodeLoginPanel.h"
@@ -61,7 +62,7 @@ QPoint centredOn(const QWidget *below, const QWidget *widget)
 
 QRCodeLoginPanel::QRCodeLoginPanel(QWidget *parent)
     : QWidget(parent)
-    , ui(std::make_unique<Ui::QRCodeLoginPanel>())
+    , ui(std::make_unique<Form<Ui::QRCodeLoginPanel>>())
     , statusTimer(new QTimer(this))
     , state(codeInvalid)
 {
@@ -103,8 +104,8 @@ void QRCodeLoginPanel::init()
     setQRCodeMaskWtVisible(false);
     ui->QRCode->installEventFilter(this);
 
-    connect(statusTimer, &QTimer::timeout, this, &QRCodeLoginPanel::slotCheckLoginStatusTimeout);
-    connect(refreshBt, &QPushButton::clicked, this, &QRCodeLoginPanel::refreshQRCode);
+    ui->handlers.connect(statusTimer, &QTimer::timeout, this, &QRCodeLoginPanel::slotCheckLoginStatusTimeout);
+    ui->handlers.connect(refreshBt, &QPushButton::clicked, this, &QRCodeLoginPanel::refreshQRCode);
 }
 
 void QRCodeLoginPanel::nameParts()
@@ -131,7 +132,7 @@ void QRCodeLoginPanel::refreshQRCode()
     const QString requestId = newRequestId();
     state = requestingCode;
     CloudWorker::_instance().getLoginQRCode(
-        requestId, answerTo(requestId, this, [this](const Response &response, const LoginQRCodeInfo &info) {
+        requestId, answerTo(requestId, ui->handlers, [this](const Response &response, const LoginQRCodeInfo &info) {
             if (newestPanel)
                 codeAnswered(response, info);
         }));
@@ -171,8 +172,9 @@ void QRCodeLoginPanel::slotCheckLoginStatusTimeout()
     const QString requestId = newRequestId();
     // A foreign answer leaves the query in flight: there is silence until the right one comes.
     CloudWorker::_instance().checkLoginQRCodeStatus(
-        requestId, qrCodeId,
-        answerTo(requestId, this, [this](const Response &response, int status) { statusAnswered(response, status); }));
+        requestId, qrCodeId, answerTo(requestId, ui->handlers, [this](const Response &response, int status) {
+            statusAnswered(response, status);
+        }));
 }
 
 void QRCodeLoginPanel::statusAnswered(const Response &response, int status)
@@ -215,7 +217,7 @@ void QRCodeLoginPanel::checkLoginQRCodeResult()
     statusTimer->stop();
     const QString requestId = newRequestId();
     CloudWorker::_instance().checkLoginQRCodeResult(
-        requestId, qrCodeId, answerTo(requestId, this, [this](const Response &response) {
+        requestId, qrCodeId, answerTo(requestId, ui->handlers, [this](const Response &response) {
             if (response.code == kelvra_saas::successCode) {
                 emit signalScanQRCodeLoginSuccess();
                 return;

@@ -22,6 +22,9 @@ namespace kelvra_login {
 
 class QRCodeMaskWt;
 
+template <typename Designed>
+class Form;
+
 namespace Ui {
 class QRCodeLoginPanel;
 }
@@ -88,7 +91,7 @@ private:
     void statusAnswered(const kelvra_saas::Response &response, int status);
     void checkLoginQRCodeResult();
 
-    const std::unique_ptr<Ui::QRCodeLoginPanel> ui;
+    const std::unique_ptr<Form<Ui::QRCodeLoginPanel>> ui;
     QTimer *statusTimer;
     bool statusQueryInFlight = false;
     int state;

@@ -29,26 +29,21 @@ constexpr int insecureTerminalCode = 2229;
 
 SaasPwdLoginWt::SaasPwdLoginWt(QWidget *parent)
     : QWidget(parent)
-    , ui(std::make_unique<Ui::SaasPwdLoginWt>())
+    , ui(std::make_unique<Form<Ui::SaasPwdLoginWt>>())
 {
     ui->setupUi(this);
     QLineEdit *password = ui->pwdWt->lineEdit();
     capsLockHandler = new kelvra_base::CapsLockToolTipHandler(this, password, ui->pwdWt);
-    setUpPhoneField(this, ui->userWt);
+    setUpPhoneField(this, ui->userWt, ui->handlers);
     password->setValidator(new QRegExpValidator(QRegExp(QStringLiteral("^\\S+$")), password));
-    followFocus(this, ui->pwdWt);
-    handFocusOn(this, ui->userWt, ui->pwdWt);
+    followFocus(ui->pwdWt, ui->handlers);
+    handFocusOn(this, ui->userWt, ui->pwdWt, ui->handlers);
     ui->verificationCodeLogin->installEventFilter(this);
     ui->QRCodeLogin->installEventFilter(this);
-    connect(ui->loginBt, &QPushButton::clicked, this, &SaasPwdLoginWt::login);
+    ui->handlers.connect(ui->loginBt, &QPushButton::clicked, this, &SaasPwdLoginWt::login);
 }
 
-SaasPwdLoginWt::~SaasPwdLoginWt()
-{
-    // A field that dies with the focus still tells that it has lost it, when the form is gone already.
-    ui->userWt->lineEdit()->disconnect(this);
-    ui->pwdWt->lineEdit()->disconnect(this);
-}
+SaasPwdLoginWt::~SaasPwdLoginWt() = default;
 
 QString SaasPwdLoginWt::account() const
 {
@@ -70,11 +65,10 @@ void SaasPwdLoginWt::login()
     request.account = account();
     request.password = password;
     setLoggingIn(ui->loginBt, true);
-    kelvra_saas::LoginWorker::_instance().login(
-        request,
-        answerTo(request.requestId, this, [this, request](const Response &response, const LoginErrorInfo &info) {
-            loginAnswered(request.account, response, info);
-        }));
+    const auto take = [this, request](const Response &response, const LoginErrorInfo &info) {
+        loginAnswered(request.account, response, info);
+    };
+    kelvra_saas::LoginWorker::_instance().login(request, answerTo(request.requestId, ui->handlers, take));
 }
 
 void SaasPwdLoginWt::loginAnswered(const QString &account, const Response &response, const LoginErrorInfo &info)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "login/common/Form.h"
+
 #include <QWidget>
 
 #include <memory>
@@ -41,7 +43,7 @@ private:
     void loginAnswered(const QString &account, const kelvra_saas::Response &response,
                        const kelvra_saas::LoginErrorInfo &info);
 
-    const std::unique_ptr<Ui::SaasPwdLoginWt> ui;
+    const std::unique_ptr<Form<Ui::SaasPwdLoginWt>> ui;
     kelvra_base::CapsLockToolTipHandler *capsLockHandler;
 };
 

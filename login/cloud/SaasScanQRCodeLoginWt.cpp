@@ -8,7 +8,6 @@
 #include "ui_SaasScanQRCodeLoginWt.h"
 
 #include <QEvent>
-#include <QTimer>
 
 using kelvra_saas::Response;
 
@@ -24,15 +23,15 @@ constexpr int newCodeDelayMs = 1000;
 
 SaasScanQRCodeLoginWt::SaasScanQRCodeLoginWt(QWidget *parent)
     : QWidget(parent)
-    , ui(std::make_unique<Ui::SaasScanQRCodeLoginWt>())
+    , ui(std::make_unique<Form<Ui::SaasScanQRCodeLoginWt>>())
 {
     ui->setupUi(this);
     ui->QRCodePanel->setLayoutSpacing(panelSpacing);
     ui->QRCodePanel->setQRCodeSize(codeSize);
     ui->verificationCodeLogin->installEventFilter(this);
     ui->passwordLogin->installEventFilter(this);
-    connect(ui->QRCodePanel, &QRCodeLoginPanel::signalScanQRCodeLoginSuccess, this,
-            &SaasScanQRCodeLoginWt::queryAccount);
+    ui->handlers.connect(ui->QRCodePanel, &QRCodeLoginPanel::signalScanQRCodeLoginSuccess, this,
+                         &SaasScanQRCodeLoginWt::queryAccount);
 }
 
 SaasScanQRCodeLoginWt::~SaasScanQRCodeLoginWt() = default;
@@ -41,7 +40,7 @@ void SaasScanQRCodeLoginWt::queryAccount()
 {
     // Whatever id the answer carries: the scan has been confirmed, and an account is an account.
     kelvra_saas::LoginWorker::_instance().getAccountAfterScanQRCode(
-        newRequestId(), firstAnswer(this, [this](const Response &response, const QString &account) {
+        newRequestId(), firstAnswer(ui->handlers, [this](const Response &response, const QString &account) {
             accountAnswered(response, account);
         }));
 }
@@ -56,7 +55,7 @@ void SaasScanQRCodeLoginWt::accountAnswered(const Response &response, const QStr
     warningAlert(tr("Get logged in account failure:%1").arg(errorText(response)));
     // The alert may have outlived this page.
     if (self)
-        QTimer::singleShot(newCodeDelayMs, this, [this] { ui->QRCodePanel->refreshQRCode(); });
+        ui->handlers.after(newCodeDelayMs, [this] { ui->QRCodePanel->refreshQRCode(); });
 }
 
 bool SaasScanQRCodeLoginWt::eventFilter(QObject *watched, QEvent *event)

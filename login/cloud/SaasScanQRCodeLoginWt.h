@@ -1,5 +1,7 @@
 #pragma once
 
+#include "login/common/Form.h"
+
 #include <QWidget>
 
 #include <memory>
@@ -31,7 +33,7 @@ private:
     void queryAccount();
     void accountAnswered(const kelvra_saas::Response &response, const QString &account);
 
-    const std::unique_ptr<Ui::SaasScanQRCodeLoginWt> ui;
+    const std::unique_ptr<Form<Ui::SaasScanQRCodeLoginWt>> ui;
 };
 
 } // namespace kelvra_login

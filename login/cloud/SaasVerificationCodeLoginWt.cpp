@@ -30,28 +30,25 @@ constexpr int invalidAccountCode = 2203;
 
 SaasVerificationCodeLoginWt::SaasVerificationCodeLoginWt(QWidget *parent)
     : QWidget(parent)
-    , ui(std::make_unique<Ui::SaasVerificationCodeLoginWt>())
+    , ui(std::make_unique<Form<Ui::SaasVerificationCodeLoginWt>>())
 {
     ui->setupUi(this);
-    setUpPhoneField(this, ui->userWt);
-    handFocusOn(this, ui->userWt, ui->verificationCode);
+    setUpPhoneField(this, ui->userWt, ui->handlers);
+    handFocusOn(this, ui->userWt, ui->verificationCode, ui->handlers);
     ui->passwordLogin->installEventFilter(this);
     ui->QRCodeLogin->installEventFilter(this);
 
     const auto &countdown = SaasWorker::_instance();
     if (const int seconds = countdown.getVerificationCodeRemainingSecs(); seconds > 0)
         showCountdown(seconds);
-    connect(&countdown, &SaasWorker::signalGetVerificationCodeRemainingSecs, this,
-            &SaasVerificationCodeLoginWt::showCountdown);
-    connect(ui->getVerificationCodeBt, &QPushButton::clicked, this, &SaasVerificationCodeLoginWt::getVerificationCode);
-    connect(ui->loginBt, &QPushButton::clicked, this, &SaasVerificationCodeLoginWt::login);
+    ui->handlers.connect(&countdown, &SaasWorker::signalGetVerificationCodeRemainingSecs, this,
+                         &SaasVerificationCodeLoginWt::showCountdown);
+    ui->handlers.connect(ui->getVerificationCodeBt, &QPushButton::clicked, this,
+                         &SaasVerificationCodeLoginWt::getVerificationCode);
+    ui->handlers.connect(ui->loginBt, &QPushButton::clicked, this, &SaasVerificationCodeLoginWt::login);
 }
 
-SaasVerificationCodeLoginWt::~SaasVerificationCodeLoginWt()
-{
-    // A field that dies with the focus still tells that it has lost it, when the form is gone already.
-    ui->userWt->lineEdit()->disconnect(this);
-}
+SaasVerificationCodeLoginWt::~SaasVerificationCodeLoginWt() = default;
 
 void SaasVerificationCodeLoginWt::getVerificationCode()
 {
@@ -68,7 +65,7 @@ void SaasVerificationCodeLoginWt::getVerificationCode()
     request.requestId = newRequestId();
     request.account = ui->userWt->text();
     kelvra_saas::LoginWorker::_instance().getVerificationCode(
-        request, answerTo(request.requestId, this, [](const Response &response) {
+        request, answerTo(request.requestId, ui->handlers, [](const Response &response) {
             switch (response.code) {
             case kelvra_saas::successCode:
                 messageAlert(DictDef::InformationTitle, tr("Get verificaion code success, please check the "
@@ -107,11 +104,10 @@ void SaasVerificationCodeLoginWt::login()
     request.verificationCode = code;
     request.loginType = QStringLiteral("VERIFY_CODE");
     setLoggingIn(ui->loginBt, true);
-    kelvra_saas::LoginWorker::_instance().login(
-        request,
-        answerTo(request.requestId, this, [this, request](const Response &response, const LoginErrorInfo &info) {
-            loginAnswered(request.account, response, info);
-        }));
+    const auto take = [this, request](const Response &response, const LoginErrorInfo &info) {
+        loginAnswered(request.account, response, info);
+    };
+    kelvra_saas::LoginWorker::_instance().login(request, answerTo(request.requestId, ui->handlers, take));
 }
 
 void SaasVerificationCodeLoginWt::loginAnswered(const QString &account, const Response &response,

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "login/common/Form.h"
+
 #include <QWidget>
 
 #include <memory>
@@ -36,7 +38,7 @@ private:
     void loginAnswered(const QString &account, const kelvra_saas::Response &response,
                        const kelvra_saas::LoginErrorInfo &info);
 
-    const std::unique_ptr<Ui::SaasVerificationCodeLoginWt> ui;
+    const std::unique_ptr<Form<Ui::SaasVerificationCodeLoginWt>> ui;
 };
 
 } // namespace kelvra_login

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/kelvra_saas/Response.h"
+#include "login/common/Handlers.h"
 
 #include <QPointer>
 #include <QUuid>
@@ -20,24 +21,25 @@ inline QString newRequestId()
     return QUuid::createUuid().toString();
 }
 
-/** A callback that hands the first answer, whatever its request id, to `handler` if `asker` still lives. */
-template <typename Asker, typename Handler>
-auto firstAnswer(Asker *asker, const Handler &handler)
+/** A callback that hands the first answer, whatever its request id, to `handler` if `handlers` still live. */
+template <typename Handler>
+auto firstAnswer(Handlers &handlers, const Handler &handler)
 {
-    const QPointer<Asker> self(asker);
+    const QPointer<Handlers> context(&handlers);
     // The callback is copied as it travels; its copies share the flag.
     const auto answered = std::make_shared<bool>(false);
-    return [self, answered, handler](const kelvra_saas::Response &response, const auto &...rest) {
-        if (self && !std::exchange(*answered, true))
+    return [context, answered, handler](const kelvra_saas::Response &response, const auto &...rest) {
+        if (context && !std::exchange(*answered, true))
             handler(response, rest...);
     };
 }
 
 /** As firstAnswer, for the answer to `requestId`: others are dropped. */
-template <typename Asker, typename Handler>
-auto answerTo(const QString &requestId, Asker *asker, const Handler &handler)
+template <typename Handler>
+auto answerTo(const QString &requestId, Handlers &handlers, const Handler &handler)
 {
-    return [requestId, take = firstAnswer(asker, handler)](const kelvra_saas::Response &response, const auto &...rest) {
+    const auto take = firstAnswer(handlers, handler);
+    return [requestId, take](const kelvra_saas::Response &response, const auto &...rest) {
         if (response.requestId == requestId)
             take(response, rest...);
     };

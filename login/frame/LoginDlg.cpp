@@ -41,18 +41,20 @@ void announceQuit(bool &announced)
 
 LoginDlg::LoginDlg(QWidget *parent)
     : MoveableDialog(parent, QString(), QColor(QStringLiteral("#0f1526")))
-    , ui(std::make_unique<Ui::LoginDlg>())
+    , ui(std::make_unique<Form<Ui::LoginDlg>>())
 {
     ui->setupUi(this);
     setWindowFlags(windowFlags() | Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
                    Qt::WindowMaximizeButtonHint);
     createOverlays();
 
-    connect(closeBt, &QPushButton::clicked, this, &LoginDlg::slotCloseBtClicked);
-    connect(ui->splashScreen, &SplashScreen::signalSystemLoadingFinished, this, &LoginDlg::slotSystemLoadingFinished);
-    connect(&LoginSignals::_instance(), &LoginSignals::signalLoginSuccess, this, &LoginDlg::slotLoginSuccess);
-    connect(&SystemMsg::_instance(), &SystemMsg::signalDgwAbnormal, this, &LoginDlg::quitWithMessage);
-    connect(&SystemMsg::_instance(), &SystemMsg::signalClientRepeatedStart, this, &LoginDlg::bringToFront);
+    ui->handlers.connect(closeBt, &QPushButton::clicked, this, &LoginDlg::slotCloseBtClicked);
+    ui->handlers.connect(ui->splashScreen, &SplashScreen::signalSystemLoadingFinished, this,
+                         &LoginDlg::slotSystemLoadingFinished);
+    ui->handlers.connect(&LoginSignals::_instance(), &LoginSignals::signalLoginSuccess, this,
+                         &LoginDlg::slotLoginSuccess);
+    ui->handlers.connect(&SystemMsg::_instance(), &SystemMsg::signalDgwAbnormal, this, &LoginDlg::quitWithMessage);
+    ui->handlers.connect(&SystemMsg::_instance(), &SystemMsg::signalClientRepeatedStart, this, &LoginDlg::bringToFront);
 }
 
 LoginDlg::~LoginDlg() = default;

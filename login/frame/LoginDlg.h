@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/ZCommon/MoveableDialog.h"
+#include "login/common/Form.h"
 
 #include <memory>
 
@@ -47,7 +48,7 @@ private:
     void quitWithMessage(const QString &message);
     void bringToFront();
 
-    const std::unique_ptr<Ui::LoginDlg> ui;
+    const std::unique_ptr<Form<Ui::LoginDlg>> ui;
     kelvra_base::LogoLabel *logo = nullptr;
     QPushButton *closeBt = nullptr;
     // Shared with who waits for an answer to a fatal message: the dialog may be gone by then.

@@ -17,7 +17,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QStandardPaths>
-#include <QTimer>
 
 using kelvra_base::BaseTools;
 using kelvra_contact::SystemMsg;
@@ -61,7 +60,7 @@ LoginWorker::LoginWorker()
 {
     // A host that takes its time to quit shall not be logged in meanwhile.
     connect(&SystemMsg::_instance(), &SystemMsg::signalPrepareQuitSystem, this,
-            [this] { handedOver = std::make_unique<QObject>(); });
+            [this] { handedOver = std::make_unique<Handlers>(); });
 }
 
 LoginWorker::~LoginWorker() = default;
@@ -114,11 +113,9 @@ void LoginWorker::tryHandedOverLogin(UserType type, const QStringList &params)
         return;
 
     if (type == kelvra_worker::CloudUser) {
-        QTimer::singleShot(autoLoginDelayMs, handedOver.get(),
-                           [this, params] { tryCloudAutoLogin(params.first(), params.last()); });
+        handedOver->after(autoLoginDelayMs, [this, params] { tryCloudAutoLogin(params.first(), params.last()); });
     } else if (type == kelvra_worker::LocalUser && verifyPassword(params.first(), params.last())) {
-        QTimer::singleShot(autoLoginDelayMs, handedOver.get(),
-                           [this, params] { finishHandedOverLogin(params.first(), params.last()); });
+        handedOver->after(autoLoginDelayMs, [this, params] { finishHandedOverLogin(params.first(), params.last()); });
     }
 }
 
@@ -127,13 +124,12 @@ void LoginWorker::tryCloudAutoLogin(const QString &account, const QString &passw
     const QString requestId = newRequestId();
     kelvra_saas::LoginWorker::_instance().tryAutoLogin(
         requestId, account, password,
-        answerTo(requestId, handedOver.get(),
-                 [this](const kelvra_saas::Response &response, const QString &answeredAccount) {
-                     if (response.code != kelvra_saas::successCode)
-                         kelvra_saas::LoginWorker::_instance().cancelAccountAutoLogin(answeredAccount);
-                     else if (!SystemWorker::_instance().isLoginSuccess()) // whoever has logged in by hand stays
-                         saasLoginSuccess(answeredAccount, true);
-                 }));
+        answerTo(requestId, *handedOver, [this](const kelvra_saas::Response &response, const QString &answeredAccount) {
+            if (response.code != kelvra_saas::successCode)
+                kelvra_saas::LoginWorker::_instance().cancelAccountAutoLogin(answeredAccount);
+            else if (!SystemWorker::_instance().isLoginSuccess()) // whoever has logged in by hand stays
+                saasLoginSuccess(answeredAccount, true);
+        }));
 }
 
 void LoginWorker::finishHandedOverLogin(const QString &userName, const QString &pwd)
@@ -160,7 +156,7 @@ void LoginWorker::announceSuccess(const QString &userName)
 void LoginWorker::switchUser()
 {
     autoLoginAllowed = false;
-    handedOver = std::make_unique<QObject>(); // what is still to come of a handed-over login does not
+    handedOver = std::make_unique<Handlers>(); // what is still to come of a handed-over login does not
     auto *dialog = new LoginDlg(nullptr);
     emitLoginEvent(NormalLogin);
     showDialog(dialog);

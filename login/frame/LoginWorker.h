@@ -4,6 +4,7 @@
 #include "host/kelvra_data/SuperUserInfo.h"
 #include "host/kelvra_saas/LoginErrorInfo.h"
 #include "host/kelvra_worker/UserType.h"
+#include "login/common/Handlers.h"
 
 #include <QObject>
 #include <QStringList>
@@ -104,7 +105,7 @@ private:
     int lockState = -1;
     int failedCount = 0;
     bool autoLoginAllowed = true;
-    std::unique_ptr<QObject> handedOver = std::make_unique<QObject>(); ///< lives as long as logins handed over count
+    std::unique_ptr<Handlers> handedOver = std::make_unique<Handlers>(); ///< lives as long as logins handed over count
 };
 
 } // namespace kelvra_login

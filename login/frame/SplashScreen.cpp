@@ -10,7 +10,6 @@
 #include <QIcon>
 #include <QPainter>
 #include <QPixmap>
-#include <QTimer>
 
 using kelvra_contact::SystemMsg;
 using kelvra_worker::Customization;
@@ -44,16 +43,16 @@ QString backgroundFile()
 
 SplashScreen::SplashScreen(QWidget *parent)
     : ZWidget(parent)
-    , ui(std::make_unique<Ui::SplashScreen>())
+    , ui(std::make_unique<Form<Ui::SplashScreen>>())
     , background(backgroundFile())
     , smoothProgress(new SmoothProgress(this))
 {
     ui->setupUi(this);
     // Reading a picture takes its time: not before the login is on the screen, nor when somebody waits for it to go.
-    QTimer::singleShot(readDelayMs, this,
-                       [this] { background.prepare((QSizeF(size()) * devicePixelRatioF()).toSize()); });
-    connect(smoothProgress, &SmoothProgress::signalProgress, this, &SplashScreen::slotSmoothProgress);
-    connect(&SystemMsg::_instance(), &SystemMsg::signalSystemInitProgress, this, &SplashScreen::slotSystemInitProgress);
+    ui->handlers.after(readDelayMs, [this] { background.prepare((QSizeF(size()) * devicePixelRatioF()).toSize()); });
+    ui->handlers.connect(smoothProgress, &SmoothProgress::signalProgress, this, &SplashScreen::slotSmoothProgress);
+    ui->handlers.connect(&SystemMsg::_instance(), &SystemMsg::signalSystemInitProgress, this,
+                         &SplashScreen::slotSystemInitProgress);
 }
 
 SplashScreen::~SplashScreen() = default;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/ZCommon/ZWidget.h"
+#include "login/common/Form.h"
 #include "login/local/Backdrop.h"
 
 #include <memory>
@@ -41,7 +42,7 @@ protected:
 private:
     void showProgress();
 
-    const std::unique_ptr<Ui::SplashScreen> ui;
+    const std::unique_ptr<Form<Ui::SplashScreen>> ui;
     int progress = 0;
     Backdrop background;
     ZCOMMON::SmoothProgress *smoothProgress = nullptr;

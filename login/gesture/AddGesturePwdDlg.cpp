@@ -7,7 +7,6 @@
 #include "ui_AddGesturePwdDlg.h"
 
 #include <QEvent>
-#include <QTimer>
 
 using kelvra_data::UserData;
 using kelvra_worker::LoginLogs;
@@ -31,14 +30,14 @@ constexpr auto success = QT_TRANSLATE_NOOP("kelvra_login::AddGesturePwdDlg", "Su
 
 AddGesturePwdDlg::AddGesturePwdDlg(QWidget *parent)
     : CommonDialog(parent, 0, 1)
-    , ui(std::make_unique<Ui::AddGesturePwdDlg>())
+    , ui(std::make_unique<Form<Ui::AddGesturePwdDlg>>())
 {
     ui->setupUi(this);
     setTitle(tr("Add Gesture Password Login"));
     setUserName(SystemWorker::_instance().getCurUserName());
     showPrompt(firstInput);
     ui->gesturePanel->setPointStyle(pointStyle);
-    connect(ui->gesturePanel, &GesturePanel::signalGesturePwd, this, &AddGesturePwdDlg::slotGesturePwd);
+    ui->handlers.connect(ui->gesturePanel, &GesturePanel::signalGesturePwd, this, &AddGesturePwdDlg::slotGesturePwd);
 }
 
 AddGesturePwdDlg::~AddGesturePwdDlg() = default;
@@ -86,7 +85,7 @@ void AddGesturePwdDlg::storeGesture()
         LoginLogs::_instance().addGestureLog(user);
     showPromptSoon(success);
     ui->gesturePanel->setEnabled(false);
-    QTimer::singleShot(acceptDelayMs, this, &AddGesturePwdDlg::accept);
+    ui->handlers.after(acceptDelayMs, [this] { accept(); });
 }
 
 void AddGesturePwdDlg::startAgain(const QString &reason)
@@ -104,7 +103,7 @@ void AddGesturePwdDlg::showPrompt(const char *sourceText)
 
 void AddGesturePwdDlg::showPromptSoon(const char *sourceText)
 {
-    QTimer::singleShot(promptDelayMs, this, [this, sourceText] { showPrompt(sourceText); });
+    ui->handlers.after(promptDelayMs, [this, sourceText] { showPrompt(sourceText); });
 }
 
 void AddGesturePwdDlg::changeEvent(QEvent *event)

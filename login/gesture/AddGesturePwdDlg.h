@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/kelvra_base/CommonDialog.h"
+#include "login/common/Form.h"
 
 #include <QString>
 
@@ -38,7 +39,7 @@ private:
     void showPrompt(const char *sourceText);
     void showPromptSoon(const char *sourceText);
 
-    const std::unique_ptr<Ui::AddGesturePwdDlg> ui;
+    const std::unique_ptr<Form<Ui::AddGesturePwdDlg>> ui;
     QString firstGesture;
     const char *prompt = nullptr; ///< source text, for another language
 };

@@ -12,7 +12,6 @@
 
 #include <QMouseEvent>
 #include <QPointer>
-#include <QTimer>
 
 using kelvra_contact::SystemMsg;
 using kelvra_data::UserData;
@@ -31,13 +30,13 @@ constexpr int gestureMethod = 1; // of the login logs
 
 GestureLoginWt::GestureLoginWt(QWidget *parent)
     : QWidget(parent)
-    , ui(std::make_unique<Ui::GestureLoginWt>())
+    , ui(std::make_unique<Form<Ui::GestureLoginWt>>())
 {
     ui->setupUi(this);
     ui->pwdLogin->installEventFilter(this);
-    connect(ui->gesturePanel, &GesturePanel::signalGesturePwd, this, &GestureLoginWt::slotGesturePwd);
+    ui->handlers.connect(ui->gesturePanel, &GesturePanel::signalGesturePwd, this, &GestureLoginWt::slotGesturePwd);
     // A host that takes its time to quit shall not be logged in meanwhile.
-    connect(&SystemMsg::_instance(), &SystemMsg::signalPrepareQuitSystem, this, [this] { quitting = true; });
+    ui->handlers.connect(&SystemMsg::_instance(), &SystemMsg::signalPrepareQuitSystem, [this] { quitting = true; });
     prepareAutoLogin();
 }
 
@@ -85,8 +84,7 @@ void GestureLoginWt::refuseGesture(const QString &userName)
     }
     if (guard) {
         ui->gesturePanel->setError();
-        QTimer::singleShot(failureLabelDelayMs, this,
-                           [this, count] { showFailures(count == maxFailures ? 0 : count); });
+        ui->handlers.after(failureLabelDelayMs, [this, count] { showFailures(count == maxFailures ? 0 : count); });
     }
     warningAlert(
         tr("gesture error, a maximum of %1 failures are allowed, now failed %2 times").arg(maxFailures).arg(count));
@@ -100,7 +98,7 @@ void GestureLoginWt::showFailures(int count)
 
 void GestureLoginWt::loginSoon(const QString &userName, bool automatic)
 {
-    QTimer::singleShot(autoLoginDelayMs, this, [this, userName, automatic] {
+    ui->handlers.after(autoLoginDelayMs, [this, userName, automatic] {
         // The last failure allowed may have come meanwhile, or a switch of user.
         auto &worker = LoginWorker::_instance();
         const bool wanted = !worker.isLocked() && (!automatic || worker.isAutoLoginAllowed());

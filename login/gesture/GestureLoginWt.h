@@ -1,5 +1,7 @@
 #pragma once
 
+#include "login/common/Form.h"
+
 #include <QWidget>
 
 #include <memory>
@@ -40,7 +42,7 @@ private:
     void loginSoon(const QString &userName, bool automatic);
     void login(const QString &userName, bool automatic);
 
-    const std::unique_ptr<Ui::GestureLoginWt> ui;
+    const std::unique_ptr<Form<Ui::GestureLoginWt>> ui;
     bool quitting = false;
 };
 

@@ -8,7 +8,6 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
-#include <QTimer>
 
 #include <algorithm>
 #include <cstdlib>
@@ -41,7 +40,7 @@ QRegion lineArea(const QPoint &from, const QPoint &to, const QRect &bounds)
 
 GesturePanel::GesturePanel(QWidget *parent)
     : QWidget(parent)
-    , ui(std::make_unique<Ui::GesturePanel>())
+    , ui(std::make_unique<Form<Ui::GesturePanel>>())
     , overlay(new QWidget(this))
 {
     ui->setupUi(this);
@@ -119,7 +118,7 @@ void GesturePanel::mouseReleaseEvent(QMouseEvent *event)
     isHandingOut = false;
     finished = true;
     overlay->update();
-    QTimer::singleShot(resetDelayMs, this, &GesturePanel::reset);
+    ui->handlers.after(resetDelayMs, [this] { reset(); });
 }
 
 void GesturePanel::resizeEvent(QResizeEvent *event)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "login/common/Form.h"
 #include "login/gesture/GestureRules.h"
 
 #include <QList>
@@ -57,7 +58,7 @@ private:
     void paintLines();
     void reset();
 
-    const std::unique_ptr<Ui::GesturePanel> ui;
+    const std::unique_ptr<Form<Ui::GesturePanel>> ui;
     QWidget *const overlay;
     QList<GesturePoint *> points;
     QList<GesturePoint *> selected;

@@ -12,11 +12,11 @@ namespace kelvra_login {
 
 GestureVerifyDlg::GestureVerifyDlg(QWidget *parent)
     : CommonDialog(parent, 0, 1)
-    , ui(std::make_unique<Ui::GestureVerifyDlg>())
+    , ui(std::make_unique<Form<Ui::GestureVerifyDlg>>())
 {
     ui->setupUi(this);
     setTitle(tr("Gesture Verify"));
-    connect(ui->gesturePanel, &GesturePanel::signalGesturePwd, this, &GestureVerifyDlg::slotGesturePwd);
+    ui->handlers.connect(ui->gesturePanel, &GesturePanel::signalGesturePwd, this, &GestureVerifyDlg::slotGesturePwd);
 }
 
 GestureVerifyDlg::~GestureVerifyDlg() = default;

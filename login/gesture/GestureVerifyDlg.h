@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/kelvra_base/CommonDialog.h"
+#include "login/common/Form.h"
 
 #include <memory>
 
@@ -26,7 +27,7 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
-    const std::unique_ptr<Ui::GestureVerifyDlg> ui;
+    const std::unique_ptr<Form<Ui::GestureVerifyDlg>> ui;
 };
 
 } // namespace kelvra_login

@@ -26,13 +26,13 @@ constexpr int languageBoxTop = 8;
 
 LoginWt::LoginWt(QWidget *parent)
     : ZWidget(parent)
-    , ui(std::make_unique<Ui::LoginWt>())
+    , ui(std::make_unique<Form<Ui::LoginWt>>())
     , backdrop(QStringLiteral(":/login_images/images/img_bg_login.png"))
 {
     ui->setupUi(this);
     createLanguageBox();
-    connect(&LoginSignals::_instance(), &LoginSignals::signalLoginEvent, this, &LoginWt::slotLoginEvent);
-    connect(&LoginSignals::_instance(), &LoginSignals::signalPwdStrength, this, &LoginWt::slotPwdStrength);
+    ui->handlers.connect(&LoginSignals::_instance(), &LoginSignals::signalLoginEvent, this, &LoginWt::slotLoginEvent);
+    ui->handlers.connect(&LoginSignals::_instance(), &LoginSignals::signalPwdStrength, this, &LoginWt::slotPwdStrength);
 }
 
 LoginWt::~LoginWt() = default;
@@ -55,10 +55,10 @@ void LoginWt::createLanguageBox()
 
     // The box takes no focus.
     auto *boxKey = new QShortcut(Qt::ALT | Qt::Key_L, this);
-    connect(boxKey, &QShortcut::activated, languageBox, &QComboBox::showPopup);
+    ui->handlers.connect(boxKey, &QShortcut::activated, languageBox, &QComboBox::showPopup);
 
     // Only now: filling the box is no choice of the user's.
-    connect(languageBox, QOverload<int>::of(&QComboBox::currentIndexChanged), this, [this](int index) {
+    ui->handlers.connect(languageBox, QOverload<int>::of(&QComboBox::currentIndexChanged), [this](int index) {
         const int id = languageBox->itemData(index).toInt();
         SysLanguage::_instance().setLanguage(static_cast<kelvra_worker::Language>(id), true);
     });

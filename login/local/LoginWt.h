@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/ZCommon/ZWidget.h"
+#include "login/common/Form.h"
 #include "login/frame/LoginEvent.h"
 #include "login/frame/LoginSignals.h"
 #include "login/local/Backdrop.h"
@@ -54,7 +55,7 @@ private:
     void createLanguageBox();
     void nameLanguageBox();
 
-    const std::unique_ptr<Ui::LoginWt> ui;
+    const std::unique_ptr<Form<Ui::LoginWt>> ui;
     QMap<int, int> pageIndex;
     Backdrop backdrop;
     QWidget *tip = nullptr;

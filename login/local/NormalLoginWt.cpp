@@ -54,7 +54,7 @@ bool cloudLoginEnabled()
 
 NormalLoginWt::NormalLoginWt(QWidget *parent)
     : QWidget(parent)
-    , ui(std::make_unique<Ui::NormalLoginWt>())
+    , ui(std::make_unique<Form<Ui::NormalLoginWt>>())
     , countDownTimer(new QTimer(this))
     , nameTimer(new QTimer(this))
 {
@@ -84,12 +84,7 @@ NormalLoginWt::NormalLoginWt(QWidget *parent)
     connectHub();
 }
 
-NormalLoginWt::~NormalLoginWt()
-{
-    // A field that dies with the focus still tells that it has lost it, when the form is gone already.
-    ui->localUserWt->lineEdit()->disconnect(this);
-    ui->localPwdWt->lineEdit()->disconnect(this);
-}
+NormalLoginWt::~NormalLoginWt() = default;
 
 void NormalLoginWt::restoreLastUser()
 {
@@ -134,29 +129,29 @@ void NormalLoginWt::showFirstPage()
 
 void NormalLoginWt::connectFields()
 {
-    connect(ui->localUserWt->lineEdit(), &ZLineEdit::signalFocusEvent, this, [this](bool focused) {
+    ui->handlers.connect(ui->localUserWt->lineEdit(), &ZLineEdit::signalFocusEvent, [this](bool focused) {
         ui->localUserWt->setState(focused ? FieldFocused : FieldNormal);
         if (focused)
             ui->localPwdWt->setState(FieldNormal);
     });
-    connect(ui->localPwdWt->lineEdit(), &ZLineEdit::signalFocusEvent, this, [this](bool focused) {
+    ui->handlers.connect(ui->localPwdWt->lineEdit(), &ZLineEdit::signalFocusEvent, [this](bool focused) {
         if (focused)
             ui->localUserWt->setState(FieldNormal);
         ui->localPwdWt->setState(focused ? FieldFocused : FieldNormal);
     });
-    connect(ui->localUserWt->lineEdit(), &QLineEdit::textEdited, this, &NormalLoginWt::slotUserNameEdited);
-    connect(nameTimer, &QTimer::timeout, this, &NormalLoginWt::checkRememberedLogin);
-    connect(ui->localLoginBt, &QPushButton::clicked, this, &NormalLoginWt::slotLocalLoginBtClicked);
-    connect(countDownTimer, &QTimer::timeout, this, &NormalLoginWt::slotCountDownTimeout);
+    ui->handlers.connect(ui->localUserWt->lineEdit(), &QLineEdit::textEdited, this, &NormalLoginWt::slotUserNameEdited);
+    ui->handlers.connect(nameTimer, &QTimer::timeout, this, &NormalLoginWt::checkRememberedLogin);
+    ui->handlers.connect(ui->localLoginBt, &QPushButton::clicked, this, &NormalLoginWt::slotLocalLoginBtClicked);
+    ui->handlers.connect(countDownTimer, &QTimer::timeout, this, &NormalLoginWt::slotCountDownTimeout);
 }
 
 void NormalLoginWt::connectPages()
 {
-    connect(ui->localUserTab, &QPushButton::clicked, this, [this] {
+    ui->handlers.connect(ui->localUserTab, &QPushButton::clicked, [this] {
         selectTab(false, ui->localPwdLoginPage);
         focusField();
     });
-    connect(ui->saasUserTab, &QPushButton::clicked, this, [this] {
+    ui->handlers.connect(ui->saasUserTab, &QPushButton::clicked, [this] {
         selectTab(true, currentCloudPage);
         focusField();
     });
@@ -165,19 +160,20 @@ void NormalLoginWt::connectPages()
 void NormalLoginWt::connectHub()
 {
     auto &hub = LoginSignals::_instance();
-    connect(&hub, &LoginSignals::signalLockLoginByGesture, this, &NormalLoginWt::slotLockLoginByGesture);
-    connect(&SystemMsg::_instance(), &SystemMsg::signalPrepareQuitSystem, this, &NormalLoginWt::slotQuitSystem);
-    connect(&hub, &LoginSignals::signalSaasLoginEvent, this, [this](SaasLoginEvent event) {
+    ui->handlers.connect(&hub, &LoginSignals::signalLockLoginByGesture, this, &NormalLoginWt::slotLockLoginByGesture);
+    ui->handlers.connect(&SystemMsg::_instance(), &SystemMsg::signalPrepareQuitSystem, this,
+                         &NormalLoginWt::slotQuitSystem);
+    ui->handlers.connect(&hub, &LoginSignals::signalSaasLoginEvent, [this](SaasLoginEvent event) {
         currentCloudPage = cloudPages.value(event);
         selectTab(true, currentCloudPage);
         if (isVisible())
             focusField();
     });
-    connect(&hub, &LoginSignals::signalDefaultLocalSuperUserMethodSelected, this,
-            [this](const QString &userName, const QString &pwd) {
-                ui->localUserWt->setText(userName);
-                ui->localPwdWt->setPassword(pwd, false);
-            });
+    ui->handlers.connect(&hub, &LoginSignals::signalDefaultLocalSuperUserMethodSelected,
+                         [this](const QString &userName, const QString &pwd) {
+                             ui->localUserWt->setText(userName);
+                             ui->localPwdWt->setPassword(pwd, false);
+                         });
 }
 
 void NormalLoginWt::selectTab(bool cloud, QWidget *page)
@@ -206,7 +202,7 @@ void NormalLoginWt::tryCloudAutoLogin()
     const QString requestId = newRequestId();
     kelvra_saas::LoginWorker::_instance().tryAutoLogin(
         requestId, ui->kelvra_login__SaasPwdLoginWt->account(),
-        answerTo(requestId, this, [this](const kelvra_saas::Response &response, const QString &account) {
+        answerTo(requestId, ui->handlers, [this](const kelvra_saas::Response &response, const QString &account) {
             cloudAutoLoginAnswered(response, account);
         }));
 }
@@ -226,7 +222,7 @@ void NormalLoginWt::cloudAutoLoginAnswered(const kelvra_saas::Response &response
 
 void NormalLoginWt::clickLoginSoon()
 {
-    QTimer::singleShot(autoLoginDelayMs, this, [this] {
+    ui->handlers.after(autoLoginDelayMs, [this] {
         if (!quitting && !SystemWorker::_instance().isLoginSuccess())
             emit ui->localLoginBt->clicked();
     });

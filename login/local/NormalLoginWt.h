@@ -1,5 +1,7 @@
 #pragma once
 
+#include "login/common/Form.h"
+
 #include <QElapsedTimer>
 #include <QMap>
 #include <QTimer>
@@ -73,7 +75,7 @@ private:
     bool hasUserName();
     void showNameError(const QString &text);
 
-    const std::unique_ptr<Ui::NormalLoginWt> ui;
+    const std::unique_ptr<Form<Ui::NormalLoginWt>> ui;
     bool locked = false;
     qint32 lockSeconds = 0;
     QTimer *countDownTimer;

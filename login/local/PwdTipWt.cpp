@@ -26,7 +26,7 @@ void markRule(QWidget *row, QLabel *flag, bool broken)
 
 PwdTipWt::PwdTipWt(QWidget *parent)
     : QWidget(parent)
-    , ui(std::make_unique<Ui::PwdTipWt>())
+    , ui(std::make_unique<Form<Ui::PwdTipWt>>())
 {
     ui->setupUi(this);
     setStrength(static_cast<ZCOMMON::PwdStrength>(PwdTipKept));

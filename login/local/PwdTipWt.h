@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/ZCommon/PwdStrength.h"
+#include "login/common/Form.h"
 
 #include <QWidget>
 
@@ -37,7 +38,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    const std::unique_ptr<Ui::PwdTipWt> ui;
+    const std::unique_ptr<Form<Ui::PwdTipWt>> ui;
 };
 
 } // namespace kelvra_login

@@ -13,7 +13,7 @@ namespace kelvra_login {
 
 UserNameWt::UserNameWt(QWidget *parent)
     : ZWidget(parent)
-    , ui(std::make_unique<Ui::UserNameWt>())
+    , ui(std::make_unique<Form<Ui::UserNameWt>>())
 {
     ui->setupUi(this);
     setAttribute(Qt::WA_StyledBackground);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/ZCommon/ZWidget.h"
+#include "login/common/Form.h"
 
 #include <memory>
 
@@ -48,7 +49,7 @@ private:
     void pasteWithoutBlanks();
     void retranslate();
 
-    const std::unique_ptr<Ui::UserNameWt> ui;
+    const std::unique_ptr<Form<Ui::UserNameWt>> ui;
     bool placeholderIsOwners = false;
 };
 

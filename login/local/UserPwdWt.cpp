@@ -41,7 +41,7 @@ bool typesText(const QKeyEvent &event)
 
 UserPwdWt::UserPwdWt(QWidget *parent)
     : ZWidget(parent)
-    , ui(std::make_unique<Ui::UserPwdWt>())
+    , ui(std::make_unique<Form<Ui::UserPwdWt>>())
 {
     AccessiblePassword::install();
     AccessibleToggle::install();
@@ -61,8 +61,8 @@ UserPwdWt::UserPwdWt(QWidget *parent)
     eye->setShortcutContext(Qt::WidgetShortcut);
     ui->pwd->addAction(eye, QLineEdit::TrailingPosition);
 
-    connect(eye, &QAction::triggered, this, &UserPwdWt::showPassword);
-    connect(ui->pwd, &QLineEdit::textEdited, this, &UserPwdWt::keepTypedPasswordClean);
+    ui->handlers.connect(eye, &QAction::triggered, this, &UserPwdWt::showPassword);
+    ui->handlers.connect(ui->pwd, &QLineEdit::textEdited, this, &UserPwdWt::keepTypedPasswordClean);
     setState(FieldNormal);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/ZCommon/ZWidget.h"
+#include "login/common/Form.h"
 
 #include <memory>
 
@@ -63,7 +64,7 @@ private:
     void updateEyeIcon(bool highlighted);
     void retranslate();
 
-    const std::unique_ptr<Ui::UserPwdWt> ui;
+    const std::unique_ptr<Form<Ui::UserPwdWt>> ui;
     QAction *eye = nullptr;
     bool placeholderIsOwners = false;
 };

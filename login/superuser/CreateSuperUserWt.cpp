@@ -16,15 +16,15 @@ namespace kelvra_login {
 
 CreateSuperUserWt::CreateSuperUserWt(QWidget *parent)
     : QWidget(parent)
-    , ui(std::make_unique<Ui::CreateSuperUserWt>())
+    , ui(std::make_unique<Form<Ui::CreateSuperUserWt>>())
 {
     ui->setupUi(this);
     ui->confirmPwdWt->hideIcon();
     setPlaceholders();
-    rating = std::make_unique<NewPwdRating>(
-        NewPwdRating::Fields{ui->userWt, ui->inputPwdWt, ui->pwdStrengthWt, ui->confirmPwdWt});
-    connect(rating.get(), &NewPwdRating::signalRated, this, [this](int rated) { pwdStrength = rated; });
-    connect(ui->createBt, &QPushButton::clicked, this, &CreateSuperUserWt::slotCreateBtClicked);
+    const NewPwdRating::Fields fields{ui->userWt, ui->inputPwdWt, ui->pwdStrengthWt, ui->confirmPwdWt};
+    ui->handlers.connect(new NewPwdRating(fields, ui->handlers), &NewPwdRating::signalRated,
+                         [this](int rated) { pwdStrength = rated; });
+    ui->handlers.connect(ui->createBt, &QPushButton::clicked, this, &CreateSuperUserWt::slotCreateBtClicked);
 }
 
 CreateSuperUserWt::~CreateSuperUserWt() = default;

@@ -1,14 +1,13 @@
 #pragma once
 
 #include "host/kelvra_data/SuperUserInfo.h"
+#include "login/common/Form.h"
 
 #include <QWidget>
 
 #include <memory>
 
 namespace kelvra_login {
-
-class NewPwdRating;
 
 namespace Ui {
 class CreateSuperUserWt;
@@ -42,8 +41,7 @@ protected:
 private:
     void setPlaceholders();
 
-    const std::unique_ptr<Ui::CreateSuperUserWt> ui;
-    std::unique_ptr<NewPwdRating> rating;
+    const std::unique_ptr<Form<Ui::CreateSuperUserWt>> ui;
     int pwdStrength = 0;
 };
 

@@ -22,7 +22,7 @@ namespace kelvra_login {
 
 GetbackPwdDlg::GetbackPwdDlg(QWidget *parent)
     : CommonDialog(parent, 0, 1)
-    , ui(std::make_unique<Ui::GetbackPwdDlg>())
+    , ui(std::make_unique<Form<Ui::GetbackPwdDlg>>())
     , superUserInfo(UserData::_instance().getSuperUserInfo(SystemWorker::_instance().getSuperUserName()))
 {
     ui->setupUi(this);
@@ -31,8 +31,8 @@ GetbackPwdDlg::GetbackPwdDlg(QWidget *parent)
     ui->importCredentialsBt->installEventFilter(this);
     ui->answersWt->showQuestions(superUserInfo);
     ui->answersWt->setFocus();
-    connect(ui->operBt, &QPushButton::clicked, this, &GetbackPwdDlg::slotOperBtClicked);
-    connect(ui->cancelBt, &QPushButton::clicked, this, &GetbackPwdDlg::reject);
+    ui->handlers.connect(ui->operBt, &QPushButton::clicked, this, &GetbackPwdDlg::slotOperBtClicked);
+    ui->handlers.connect(ui->cancelBt, &QPushButton::clicked, this, &GetbackPwdDlg::reject);
 }
 
 GetbackPwdDlg::~GetbackPwdDlg() = default;

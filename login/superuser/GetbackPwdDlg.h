@@ -2,6 +2,7 @@
 
 #include "host/kelvra_base/CommonDialog.h"
 #include "host/kelvra_data/SuperUserInfo.h"
+#include "login/common/Form.h"
 
 #include <memory>
 
@@ -38,7 +39,7 @@ private:
     void showPassword();
     void copyPassword() const;
 
-    const std::unique_ptr<Ui::GetbackPwdDlg> ui;
+    const std::unique_ptr<Form<Ui::GetbackPwdDlg>> ui;
     const kelvra_data::SuperUserInfo superUserInfo;
     bool passwordShown = false;
 };

@@ -8,13 +8,13 @@ namespace kelvra_login {
 
 LoginMethodBt::LoginMethodBt(QWidget *parent)
     : QPushButton(parent)
-    , ui(std::make_unique<Ui::LoginMethodBt>())
+    , ui(std::make_unique<Form<Ui::LoginMethodBt>>())
 {
     ui->setupUi(this);
     // A label under the pointer would take the hover picture from the button.
     ui->title->setAttribute(Qt::WA_TransparentForMouseEvents);
     ui->detail->setAttribute(Qt::WA_TransparentForMouseEvents);
-    connect(this, &QPushButton::clicked, this, [this] { emit signalClicked(method); });
+    ui->handlers.connect(this, &QPushButton::clicked, [this] { emit signalClicked(method); });
 }
 
 LoginMethodBt::~LoginMethodBt() = default;

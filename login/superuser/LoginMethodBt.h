@@ -1,5 +1,7 @@
 #pragma once
 
+#include "login/common/Form.h"
+
 #include <QPushButton>
 
 #include <memory>
@@ -32,7 +34,7 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
-    const std::unique_ptr<Ui::LoginMethodBt> ui;
+    const std::unique_ptr<Form<Ui::LoginMethodBt>> ui;
     int method = DefaultSuperUserMethod;
 };
 

@@ -24,7 +24,7 @@ constexpr int topMarginWithoutCloud = 54; // pixels, above the two buttons that 
 
 LoginMethodSelWt::LoginMethodSelWt(QWidget *parent)
     : QWidget(parent)
-    , ui(std::make_unique<Ui::LoginMethodSelWt>())
+    , ui(std::make_unique<Form<Ui::LoginMethodSelWt>>())
 {
     ui->setupUi(this);
     ui->defaultUserBt->setMethod(LoginMethodBt::DefaultSuperUserMethod);
@@ -36,7 +36,7 @@ LoginMethodSelWt::LoginMethodSelWt(QWidget *parent)
     ui->saasUserBt->setShortcut(Qt::ALT | Qt::Key_3);
     applyCloudRule();
     for (const LoginMethodBt *button : {ui->defaultUserBt, ui->newUserBt, ui->saasUserBt})
-        connect(button, &LoginMethodBt::signalClicked, this, &LoginMethodSelWt::slotLoginMethodBtClicked);
+        ui->handlers.connect(button, &LoginMethodBt::signalClicked, this, &LoginMethodSelWt::slotLoginMethodBtClicked);
 }
 
 LoginMethodSelWt::~LoginMethodSelWt() = default;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "login/common/Form.h"
+
 #include <QWidget>
 
 #include <memory>
@@ -29,7 +31,7 @@ private:
     void applyCloudRule();
     void createDefaultSuperUser();
 
-    const std::unique_ptr<Ui::LoginMethodSelWt> ui;
+    const std::unique_ptr<Form<Ui::LoginMethodSelWt>> ui;
 };
 
 } // namespace kelvra_login

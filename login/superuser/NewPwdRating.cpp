@@ -4,6 +4,7 @@
 #include "host/ZCommon/ZLineEdit.h"
 #include "host/kelvra_base/CapsLockToolTipHandler.h"
 #include "host/kelvra_base/PwdStrengthWt.h"
+#include "login/common/Handlers.h"
 #include "login/frame/LoginSignals.h"
 #include "login/local/FieldStyle.h"
 #include "login/local/PwdTipWt.h"
@@ -32,8 +33,9 @@ PwdTipClass tipClass(PwdStrength grade, const QString &pwd, const QString &userN
 
 } // namespace
 
-NewPwdRating::NewPwdRating(const Fields &pageFields)
-    : fields(pageFields)
+NewPwdRating::NewPwdRating(const Fields &pageFields, Handlers &owner)
+    : QObject(&owner)
+    , fields(pageFields)
 {
     connectTyping();
     connectFocus();

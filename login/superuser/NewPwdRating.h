@@ -8,12 +8,14 @@ class PwdStrengthWt;
 
 namespace kelvra_login {
 
+class Handlers;
 class UserNameWt;
 class UserPwdWt;
 
 /**
  * Rates the new password of a page while it is typed, tells the hub, and keeps the looks of the page's fields in
- * step with the keyboard focus. It uses the fields, so the page lets it die before its form.
+ * step with the keyboard focus. It uses the fields, and so belongs to the
+ * handlers of their form.
  */
 class NewPwdRating : public QObject
 {
@@ -29,7 +31,7 @@ public:
         UserPwdWt *confirmation;
     };
 
-    explicit NewPwdRating(const Fields &pageFields);
+    NewPwdRating(const Fields &pageFields, Handlers &owner);
     ~NewPwdRating() override;
 
 signals:

@@ -19,7 +19,7 @@ namespace kelvra_login {
 
 ResetSuperUserPwdWt::ResetSuperUserPwdWt(const QString &name, QWidget *parent)
     : QWidget(parent)
-    , ui(std::make_unique<Ui::ResetSuperUserPwdWt>())
+    , ui(std::make_unique<Form<Ui::ResetSuperUserPwdWt>>())
     , userName(name)
 {
     ui->setupUi(this);
@@ -27,10 +27,10 @@ ResetSuperUserPwdWt::ResetSuperUserPwdWt(const QString &name, QWidget *parent)
     ui->userWt->setFieldDisabled();
     ui->confirmPwdWt->hideIcon();
     setPlaceholders();
-    rating = std::make_unique<NewPwdRating>(
-        NewPwdRating::Fields{ui->userWt, ui->inputPwdWt, ui->pwdStrengthWt, ui->confirmPwdWt});
-    connect(rating.get(), &NewPwdRating::signalRated, this, [this](int rated) { pwdStrength = rated; });
-    connect(ui->loginBt, &QPushButton::clicked, this, &ResetSuperUserPwdWt::slotLoginBtClicked);
+    const NewPwdRating::Fields fields{ui->userWt, ui->inputPwdWt, ui->pwdStrengthWt, ui->confirmPwdWt};
+    ui->handlers.connect(new NewPwdRating(fields, ui->handlers), &NewPwdRating::signalRated,
+                         [this](int rated) { pwdStrength = rated; });
+    ui->handlers.connect(ui->loginBt, &QPushButton::clicked, this, &ResetSuperUserPwdWt::slotLoginBtClicked);
 }
 
 ResetSuperUserPwdWt::~ResetSuperUserPwdWt() = default;

@@ -1,12 +1,12 @@
 #pragma once
 
+#include "login/common/Form.h"
+
 #include <QWidget>
 
 #include <memory>
 
 namespace kelvra_login {
-
-class NewPwdRating;
 
 namespace Ui {
 class ResetSuperUserPwdWt;
@@ -33,8 +33,7 @@ private:
     void setPlaceholders();
     bool checkFields();
 
-    const std::unique_ptr<Ui::ResetSuperUserPwdWt> ui;
-    std::unique_ptr<NewPwdRating> rating;
+    const std::unique_ptr<Form<Ui::ResetSuperUserPwdWt>> ui;
     const QString userName;
     int pwdStrength = 0;
 };

@@ -35,7 +35,7 @@ void showAnswer(QLineEdit *field, const QString &answer)
 
 SecretAnswersWt::SecretAnswersWt(QWidget *parent)
     : QWidget(parent)
-    , ui(std::make_unique<Ui::SecretAnswersWt>())
+    , ui(std::make_unique<Form<Ui::SecretAnswersWt>>())
 {
     ui->setupUi(this);
     setFocusProxy(ui->answer_1);

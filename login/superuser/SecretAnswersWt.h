@@ -1,5 +1,6 @@
 #pragma once
 
+#include "login/common/Form.h"
 #include "login/superuser/PageParts.h"
 
 #include <QWidget>
@@ -36,7 +37,7 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
-    const std::unique_ptr<Ui::SecretAnswersWt> ui;
+    const std::unique_ptr<Form<Ui::SecretAnswersWt>> ui;
 };
 
 } // namespace kelvra_login

@@ -29,7 +29,7 @@ constexpr int thirdDefault = 8;
 
 SetSecretAnswerWt::SetSecretAnswerWt(QWidget *parent)
     : QWidget(parent)
-    , ui(std::make_unique<Ui::SetSecretAnswerWt>())
+    , ui(std::make_unique<Form<Ui::SetSecretAnswerWt>>())
 {
     ui->setupUi(this);
     const auto boxes = questionBoxes();
@@ -37,13 +37,14 @@ SetSecretAnswerWt::SetSecretAnswerWt(QWidget *parent)
     for (std::size_t i = 0; i < boxes.size(); ++i) {
         boxes[i]->getListWt()->setStyleSheet(
             QStringLiteral("QListWidget{border:0px;border-radius:0px;} QListWidget::item{min-height:34px;}"));
-        connect(boxes[i], QOverload<int>::of(&QComboBox::currentIndexChanged), fields[i], &QLineEdit::clear);
+        ui->handlers.connect(boxes[i], QOverload<int>::of(&QComboBox::currentIndexChanged), fields[i],
+                             &QLineEdit::clear);
     }
     fillQuestions();
     // The questions stand already.
     ui->answer_1->setFocus();
-    connect(ui->backBt, &QPushButton::clicked, this, &SetSecretAnswerWt::slotBackBtClicked);
-    connect(ui->loginBt, &QPushButton::clicked, this, &SetSecretAnswerWt::slotLoginBtClicked);
+    ui->handlers.connect(ui->backBt, &QPushButton::clicked, this, &SetSecretAnswerWt::slotBackBtClicked);
+    ui->handlers.connect(ui->loginBt, &QPushButton::clicked, this, &SetSecretAnswerWt::slotLoginBtClicked);
 }
 
 SetSecretAnswerWt::~SetSecretAnswerWt() = default;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/kelvra_data/SuperUserInfo.h"
+#include "login/common/Form.h"
 
 #include <QWidget>
 
@@ -49,7 +50,7 @@ private:
     std::array<kelvra_base::ComboBox *, 3> questionBoxes() const;
     std::array<QLineEdit *, 3> answerFields() const;
 
-    const std::unique_ptr<Ui::SetSecretAnswerWt> ui;
+    const std::unique_ptr<Form<Ui::SetSecretAnswerWt>> ui;
     kelvra_data::SuperUserInfo superUserInfo;
     bool autoLogin = false;
 };

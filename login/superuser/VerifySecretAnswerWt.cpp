@@ -17,15 +17,15 @@ namespace kelvra_login {
 
 VerifySecretAnswerWt::VerifySecretAnswerWt(const QString &name, QWidget *parent)
     : QWidget(parent)
-    , ui(std::make_unique<Ui::VerifySecretAnswerWt>())
+    , ui(std::make_unique<Form<Ui::VerifySecretAnswerWt>>())
     , userName(name)
 {
     ui->setupUi(this);
     showQuestions();
     ui->importCredentialsBt->installEventFilter(this);
     ui->forgotAllBt->installEventFilter(this);
-    connect(ui->backBt, &QPushButton::clicked, this, &VerifySecretAnswerWt::slotBackBtClicked);
-    connect(ui->okBt, &QPushButton::clicked, this, &VerifySecretAnswerWt::slotOkBtClicked);
+    ui->handlers.connect(ui->backBt, &QPushButton::clicked, this, &VerifySecretAnswerWt::slotBackBtClicked);
+    ui->handlers.connect(ui->okBt, &QPushButton::clicked, this, &VerifySecretAnswerWt::slotOkBtClicked);
 }
 
 VerifySecretAnswerWt::~VerifySecretAnswerWt() = default;

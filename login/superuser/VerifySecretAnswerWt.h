@@ -1,5 +1,7 @@
 #pragma once
 
+#include "login/common/Form.h"
+
 #include <QWidget>
 
 #include <memory>
@@ -37,7 +39,7 @@ private:
     void linkPressed(QObject *link);
     void importCredentials();
 
-    const std::unique_ptr<Ui::VerifySecretAnswerWt> ui;
+    const std::unique_ptr<Form<Ui::VerifySecretAnswerWt>> ui;
     const QString userName;
 };
 
