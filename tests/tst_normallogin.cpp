@@ -323,6 +323,44 @@ private slots:
         QCOMPARE(pasted("old", QString(70, 'y')), QString(64, 'y') + " 1 1");
     }
 
+    void enteredNameLosesItsBlanks_data()
+    {
+        QTest::addColumn<QString>("way");
+        QTest::addColumn<QString>("entered");
+        QTest::addColumn<QString>("stands");
+        QTest::newRow("no-break space") << "keys" << QStringLiteral("a\u00a0b") << "ab";
+        QTest::newRow("ideographic space")
+            << "keys" << QStringLiteral("\u5f20\u3000\u4e09") << QStringLiteral("\u5f20\u4e09");
+        QTest::newRow("next line, em space") << "keys" << QStringLiteral("a\u0085b\u2003c") << "abc";
+        QTest::newRow("phone number in groups") << "keys" << QStringLiteral("138 1234\u00a05678\r\n") << "13812345678";
+        QTest::newRow("by the menu") << "menu"
+                                     << "a b"
+                                     << "ab";
+        QTest::newRow("by an input method") << "input method" << QStringLiteral("a\u3000b") << "ab";
+    }
+
+    void enteredNameLosesItsBlanks()
+    {
+        QFETCH(QString, way);
+        QFETCH(QString, entered);
+        newFields();
+        name()->setText("old");
+        nameEdit()->selectAll();
+        QGuiApplication::clipboard()->setText(entered);
+        if (way == "keys") {
+            QTest::keySequence(nameEdit(), QKeySequence::Paste);
+        } else if (way == "menu") {
+            QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(5, 5), nameEdit()->mapToGlobal(QPoint(5, 5)));
+            qApp->notify(nameEdit(), &event);
+            QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_P);
+        } else {
+            QInputMethodEvent event;
+            event.setCommitString(entered);
+            QCoreApplication::sendEvent(nameEdit(), &event);
+        }
+        QTEST(nameEdit()->text(), "stands");
+    }
+
     void passwordStaysInItsField()
     {
         newFields();

@@ -4,12 +4,24 @@
 #include "ui_UserNameWt.h"
 
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QGuiApplication>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QRegExpValidator>
-#include <QRegularExpression>
 
 namespace kelvra_login {
+
+namespace {
+
+// The line edit refuses as a whole what its validator finds a blank in. This is the validator's idea of a blank: that
+// of QRegularExpression leaves out what is beyond ASCII.
+QString withoutBlanks(QString text)
+{
+    return text.remove(QRegExp(QStringLiteral("\\s")));
+}
+
+} // namespace
 
 UserNameWt::UserNameWt(QWidget *parent)
     : ZWidget(parent)
@@ -105,18 +117,41 @@ void UserNameWt::retranslate()
 
 bool UserNameWt::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == ui->userName && event->type() == QEvent::KeyPress &&
-        static_cast<QKeyEvent *>(event)->matches(QKeySequence::Paste)) {
+    if (watched != ui->userName)
+        return ZWidget::eventFilter(watched, event);
+    if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent *>(event)->matches(QKeySequence::Paste)) {
         pasteWithoutBlanks();
         return true;
+    }
+    if (event->type() == QEvent::ContextMenu) {
+        openMenu(static_cast<QContextMenuEvent *>(event)->globalPos());
+        return true;
+    }
+    if (event->type() == QEvent::InputMethod) {
+        auto *input = static_cast<QInputMethodEvent *>(event);
+        input->setCommitString(withoutBlanks(input->commitString()), input->replacementStart(),
+                               input->replacementLength());
     }
     return ZWidget::eventFilter(watched, event);
 }
 
+// The line edit's menu, whose "Paste" would have the line edit refuse a text with a blank.
+void UserNameWt::openMenu(const QPoint &globalPos)
+{
+    QMenu *const menu = ui->userName->createStandardContextMenu();
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    for (QAction *action : menu->actions()) {
+        if (!action->text().startsWith(QLineEdit::tr("&Paste")))
+            continue;
+        disconnect(action, &QAction::triggered, nullptr, nullptr);
+        connect(action, &QAction::triggered, this, &UserNameWt::pasteWithoutBlanks);
+    }
+    menu->popup(globalPos);
+}
+
 void UserNameWt::pasteWithoutBlanks()
 {
-    QString pasted = QGuiApplication::clipboard()->text();
-    pasted.remove(QRegularExpression(QStringLiteral("\\s")));
+    const QString pasted = withoutBlanks(QGuiApplication::clipboard()->text());
     if (pasted == ui->userName->text())
         return;
     // Inserted over the old text, not set: the owner is to hear of it as of any edit.

@@ -46,6 +46,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void openMenu(const QPoint &globalPos);
     void pasteWithoutBlanks();
     void retranslate();
 
