@@ -4,6 +4,10 @@
 #include "login/frame/LoginWorker.h"
 #include "login/frame/SplashScreen.h"
 
+#ifdef Q_OS_UNIX
+#    include <sys/stat.h>
+#endif
+
 using namespace kelvra_login;
 using kelvra_contact::SystemMsg;
 
@@ -155,14 +159,12 @@ private slots:
 
     void splash()
     {
-        const QImage builtIn = QImage(":/login_images/images/img_bg_loading.png")
-                                   .scaled(860, 500, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
         host.customization.loadingImagePath = folder.filePath("loading.png"); // not there yet
         host.customization.customLoadingImageEnabled = true;
-        QCOMPARE(difference(SplashScreen().grab().toImage(), builtIn), track);
+        QCOMPARE(difference(SplashScreen().grab().toImage(), builtIn()), track);
         QVERIFY(plain({4, 4}, Qt::black).save(host.customization.loadingImagePath));
         host.customization.customLoadingImageEnabled = false;
-        QCOMPARE(difference(SplashScreen().grab().toImage(), builtIn), track);
+        QCOMPARE(difference(SplashScreen().grab().toImage(), builtIn()), track);
         host.customization.customLoadingImageEnabled = true;
         SplashScreen splash;
         const QImage empty = splash.grab().toImage();
@@ -184,6 +186,42 @@ private slots:
                 QVERIFY(alike(image, {43, 426}, "#0f8bfd") && alike(image, bar.center(), "#10c1fd"));
         }
     }
+
+    void customPictureThatCannotBeShown_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<int>("size");
+        QTest::newRow("no picture") << QByteArray("<html>") << 6;
+        QTest::newRow("empty") << QByteArray() << 0;
+        QTest::newRow("too large") << onePixel() << 50'000'000;
+    }
+
+    void customPictureThatCannotBeShown()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(int, size);
+        QFile file(useCustomPicture(content));
+        QVERIFY(file.resize(size));
+        QCOMPARE(difference(SplashScreen().grab().toImage(), builtIn()), track);
+    }
+
+    void customPictureIsTakenAtConstruction()
+    {
+        const QString path = useCustomPicture(onePixel());
+        SplashScreen splash;
+        QVERIFY(QFile::remove(path));
+        QCOMPARE(difference(splash.grab().toImage(), plain({860, 500}, Qt::black)), track);
+    }
+
+#ifdef Q_OS_UNIX
+    void customPictureThatIsAPipeDoesNotHang()
+    {
+        const QString path = useCustomPicture({});
+        QVERIFY(QFile::remove(path));
+        QCOMPARE(mkfifo(qPrintable(path), 0600), 0);
+        QCOMPARE(difference(SplashScreen().grab().toImage(), builtIn()), track);
+    }
+#endif
 
     void moduleEntry()
     {
@@ -207,7 +245,33 @@ protected:
     }
 
 private:
-    QStackedWidget *stack() const { return child<QStackedWidget>("stackedWidget"); } // the outermost is found first
+    static QImage builtIn()
+    {
+        return QImage(":/login_images/images/img_bg_loading.png")
+            .scaled(860, 500, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    }
+
+    static QByteArray onePixel()
+    {
+        QBuffer file;
+        plain({1, 1}, Qt::black).save(&file, "png");
+        return file.data();
+    }
+
+    /** Has the host name a file of that content for its loading picture; returns the file's path. */
+    QString useCustomPicture(const QByteArray &content) const
+    {
+        QFile file(folder.filePath("custom.png"));
+        if (!file.open(QFile::WriteOnly) || file.write(content) != content.size())
+            qFatal("no picture file");
+        host.customization.customLoadingImageEnabled = true;
+        return host.customization.loadingImagePath = file.fileName();
+    }
+
+    QStackedWidget *stack() const
+    {
+        return child<QStackedWidget>("stackedWidget");
+    } // the outermost is found first
 
     SystemMsg *const msg = &SystemMsg::_instance();
     const QStringList quitOnce{"prepareQuit(shown)", "quit(shown)", "rejected()"};

@@ -9,7 +9,8 @@ struct CustomizeInfo
 {
     bool cloudLoginEnabled = false;         ///< users may log in with a cloud account
     bool customLoadingImageEnabled = false; ///< the splash screen shows an image of the delivery's own
-    QString loadingImagePath;               ///< file path of that image; a missing file falls back to the built-in one
+    /** File path of that image. One that is missing, no picture or larger than 40 MB leaves the built-in image. */
+    QString loadingImagePath;
 };
 
 } // namespace kelvra_worker

@@ -47,6 +47,7 @@ LoginDlg::LoginDlg(QWidget *parent)
     setWindowFlags(windowFlags() | Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
                    Qt::WindowMaximizeButtonHint);
     createOverlays();
+    ui->splashScreen->prepareAfterPaintOf(this);
 
     ui->handlers.connect(closeBt, &QPushButton::clicked, this, &LoginDlg::slotCloseBtClicked);
     ui->handlers.connect(ui->splashScreen, &SplashScreen::signalSystemLoadingFinished, this,

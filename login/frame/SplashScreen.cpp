@@ -6,6 +6,7 @@
 #include "ui_SplashScreen.h"
 
 #include <QEvent>
+#include <QFile>
 #include <QFileInfo>
 #include <QIcon>
 #include <QPainter>
@@ -21,7 +22,6 @@ namespace kelvra_login {
 namespace {
 
 constexpr int fullProgress = 100; // percent
-constexpr int readDelayMs = 200;  // from when the dialog is made to when it has surely been painted
 constexpr int barMargin = 40;     // left and right of the track
 constexpr int barBottom = 77;     // from the track's top edge to the screen's bottom
 constexpr int barHeight = 7;
@@ -31,12 +31,20 @@ constexpr int lightLeft = 18; // from the bar's head to the left edge of the glo
 constexpr double lightTop = 12.5;
 constexpr QSize lightSize(36, 33);
 
-QString backgroundFile()
+// Holds a picture for a screen of 3840 x 2160 even when it is not compressed; reading more would hold up the login.
+constexpr qint64 largestPicture = 40 * 1024 * 1024; // bytes
+
+/** The host's own loading picture as it is in its file; empty when it has none, or none that can be read. */
+QByteArray customPicture()
 {
     const CustomizeInfo &customization = Customization::_instance().getCustomizeInfo();
-    if (customization.customLoadingImageEnabled && QFileInfo(customization.loadingImagePath).isFile())
-        return customization.loadingImagePath;
-    return QStringLiteral(":/login_images/images/img_bg_loading.png");
+    // Reading a pipe or a device may never end.
+    if (!customization.customLoadingImageEnabled || !QFileInfo(customization.loadingImagePath).isFile())
+        return QByteArray();
+    QFile file(customization.loadingImagePath);
+    if (!file.open(QIODevice::ReadOnly) || file.size() > largestPicture)
+        return QByteArray();
+    return file.read(largestPicture);
 }
 
 } // namespace
@@ -44,18 +52,31 @@ QString backgroundFile()
 SplashScreen::SplashScreen(QWidget *parent)
     : ZWidget(parent)
     , ui(std::make_unique<Form<Ui::SplashScreen>>())
-    , background(backgroundFile())
+    , background(QStringLiteral(":/login_images/images/img_bg_loading.png"), customPicture())
     , smoothProgress(new SmoothProgress(this))
 {
     ui->setupUi(this);
-    // Reading a picture takes its time: not before the login is on the screen, nor when somebody waits for it to go.
-    ui->handlers.after(readDelayMs, [this] { background.prepare((QSizeF(size()) * devicePixelRatioF()).toSize()); });
     ui->handlers.connect(smoothProgress, &SmoothProgress::signalProgress, this, &SplashScreen::slotSmoothProgress);
     ui->handlers.connect(&SystemMsg::_instance(), &SystemMsg::signalSystemInitProgress, this,
                          &SplashScreen::slotSystemInitProgress);
 }
 
 SplashScreen::~SplashScreen() = default;
+
+void SplashScreen::prepareAfterPaintOf(QWidget *window)
+{
+    window->installEventFilter(this);
+}
+
+bool SplashScreen::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::Paint) {
+        watched->removeEventFilter(this);
+        // All of the window is painted before the event loop goes on.
+        ui->handlers.after(0, [this] { background.prepare((QSizeF(size()) * devicePixelRatioF()).toSize()); });
+    }
+    return ZWidget::eventFilter(watched, event);
+}
 
 void SplashScreen::slotSystemInitProgress(int value)
 {

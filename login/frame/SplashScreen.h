@@ -25,6 +25,12 @@ public:
     explicit SplashScreen(QWidget *parent = nullptr);
     ~SplashScreen() override;
 
+    /**
+     * Decodes the background once `window` has been painted for the first time: decoding takes its time, which neither
+     * the login should wait for when it opens nor the user when it goes. Otherwise it is decoded when first shown.
+     */
+    void prepareAfterPaintOf(QWidget *window);
+
 signals:
     /** The bar has reached 100. */
     void signalSystemLoadingFinished();
@@ -38,6 +44,7 @@ public slots:
 protected:
     void paintEvent(QPaintEvent *event) override;
     void changeEvent(QEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void showProgress();

@@ -6,29 +6,28 @@
 
 namespace kelvra_login {
 
-Backdrop::Backdrop(const QString &pictureFile)
-    : file(pictureFile)
+Backdrop::Backdrop(const QString &builtInPicture, const QByteArray &otherBytes)
+    : builtIn(builtInPicture)
+    , otherPicture(otherBytes)
 {
 }
 
 void Backdrop::prepare(const QSize &size)
 {
-    if (!readable || stretched.size() == size)
+    if (stretched.size() == size)
         return;
+    QImage picture = QImage::fromData(otherPicture);
     // Past the pixmap cache, which would hold the picture as a whole, then lose it and have it read again.
-    const QImage picture(file);
-    readable = !picture.isNull();
+    if (picture.isNull())
+        picture.load(builtIn);
     // Averages what it makes smaller, where the painter would look at four of the picture's pixels only.
-    if (readable)
-        stretched = QPixmap::fromImage(picture.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    stretched = QPixmap::fromImage(picture.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
 }
 
 void Backdrop::paint(QPainter *painter, const QRect &rect)
 {
     const qreal ratio = painter->device()->devicePixelRatioF();
     prepare((QSizeF(rect.size()) * ratio).toSize());
-    if (!readable)
-        return;
     stretched.setDevicePixelRatio(ratio);
     painter->drawPixmap(rect, stretched);
 }
