@@ -28,7 +28,10 @@ namespace kelvra_data {
 class KELVRA_DATA_EXPORT UserData : public ZCOMMON::ZSingleton<UserData>
 {
 public:
-    /** No superuser exists and nobody has ever logged in: the client offers the choice of how to begin. */
+    /**
+     * No login has ever happened: the module offers the choice of how to begin. With a superuser who has been created
+     * but has not logged in yet, either answer will do: a host may count the creation as the choice.
+     */
     bool isFirstLogin();
 
     /** Whether there is a user of that name, a cloud account that has been adopted included. */
