@@ -15,6 +15,8 @@
 #include "tests/DataFolderTest.h"
 #include "tests/WindowParts.h"
 
+#include <QAccessible>
+
 #include <array>
 
 using namespace kelvra_data;
@@ -214,6 +216,12 @@ private slots:
             QVERIFY(!users.isUserAutoLogin("13800001111"));
         }
         QCOMPARE(auditEvents(), QStringList("cancel automatic login 13800001111"));
+    }
+
+    void automaticLoginIsSwitchedByAssistiveTechnology()
+    {
+        QAccessible::queryAccessibleInterface(child("autoLoginSwitch"))->actionInterface()->doAction("Toggle");
+        QVERIFY(users.isUserAutoLogin("root"));
     }
 
     void auditLogIsAlive()

@@ -72,7 +72,7 @@ void CommonDialog::Private::createButtons(bool resizeBts, bool close)
     if (resizeBts) {
         maximizeBt = createFrameButton(dialog, "maximizeBt");
         maximizeBt->setCheckable(true);
-        connect(maximizeBt, &QPushButton::clicked, dialog, &CommonDialog::slotMaximizeBtClicked);
+        connect(maximizeBt, &QPushButton::toggled, dialog, &CommonDialog::slotMaximizeBtClicked);
         minimizeBt = createFrameButton(dialog, "minimizeBt");
         connect(minimizeBt, &QPushButton::clicked, dialog, &CommonDialog::slotMinimizeBtClicked);
     }
@@ -240,8 +240,10 @@ bool CommonDialog::event(QEvent *event)
         d->nameButtons();
         break;
     case QEvent::WindowStateChange:
-        if (d->maximizeBt)
+        if (d->maximizeBt) {
+            const QSignalBlocker noClick(d->maximizeBt);
             d->maximizeBt->setChecked(isMaximized());
+        }
         d->frame.cancelDrag();
         break;
     case QEvent::Show:

@@ -100,7 +100,7 @@ void PhoneWindow::connectCloud()
     connect(&cloud, &CloudSimulation::signalAccountsChanged, this, &PhoneWindow::showAccounts);
     connect(&cloud, &CloudSimulation::signalMessageArrived, this, &PhoneWindow::showMessage);
     connect(&cloud, &CloudSimulation::signalCodeChanged, this, &PhoneWindow::showCode);
-    connect(ui->networkSwitch, &QCheckBox::clicked, &cloud, &CloudSimulation::setNetworkOn);
+    connect(ui->networkSwitch, &QCheckBox::toggled, &cloud, &CloudSimulation::setNetworkOn);
 }
 
 void PhoneWindow::connectAccount()

@@ -8,6 +8,7 @@
 
 #include <QEvent>
 #include <QPointer>
+#include <QSignalBlocker>
 
 using kelvra_base::AlertBox;
 using kelvra_login::LoginAccess;
@@ -23,7 +24,7 @@ SignInWt::SignInWt(QWidget *parent)
     connect(ui->setOwnGestureBt, &QPushButton::clicked, this, &SignInWt::setGesture);
     connect(ui->deleteOwnGestureBt, &QPushButton::clicked, this, &SignInWt::confirmGestureDeletion);
     connect(ui->verifyGestureBt, &QPushButton::clicked, this, &SignInWt::verifyGesture);
-    connect(ui->autoLoginSwitch, &QCheckBox::clicked, this, &SignInWt::switchAutoLogin);
+    connect(ui->autoLoginSwitch, &QCheckBox::toggled, this, &SignInWt::switchAutoLogin);
 }
 
 SignInWt::~SignInWt() = default;
@@ -66,6 +67,7 @@ void SignInWt::showAutoLogin()
     // What an account would need for it was thrown away when its user logged in without.
     const bool possible = on || session.type == kelvra_worker::LocalUser;
     ui->autoLogin->setText(on ? tr("Automatic") : tr("By hand"));
+    const QSignalBlocker noChoice(ui->autoLoginSwitch);
     ui->autoLoginSwitch->setChecked(on);
     ui->autoLoginSwitch->setEnabled(possible);
     ui->autoLoginSwitch->setToolTip(
