@@ -1,9 +1,8 @@
 #include "login/frame/LoginInit.h"
 
+#include "login/common/AccessibleFaces.h"
 #include "login/frame/LoginWorker.h"
 #include "login/frame/Screens.h"
-#include "login/local/AccessiblePassword.h"
-#include "login/local/AccessibleToggle.h"
 
 #include <QCoreApplication>
 
@@ -26,9 +25,7 @@ LoginInit::LoginInit(QObject *parent)
     : ModuleInitialization(parent)
 {
     enterScreens();
-    // At once, for the host's own password fields and check boxes as well.
-    AccessiblePassword::install();
-    AccessibleToggle::install();
+    AccessibleFaces::install();
     loadStyleSheet(styleSheetPath);
 }
 

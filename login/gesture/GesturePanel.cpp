@@ -1,6 +1,6 @@
 #include "login/gesture/GesturePanel.h"
 
-#include "login/gesture/AccessiblePad.h"
+#include "login/common/AccessibleFaces.h"
 #include "login/gesture/GesturePoint.h"
 #include "ui_GesturePanel.h"
 
@@ -43,6 +43,7 @@ GesturePanel::GesturePanel(QWidget *parent)
     , ui(std::make_unique<Form<Ui::GesturePanel>>())
     , overlay(new QWidget(this))
 {
+    AccessibleFaces::install();
     ui->setupUi(this);
     for (int index = 0; index < gestureDots; ++index) {
         points.append(new GesturePoint(index, this));
@@ -52,7 +53,6 @@ GesturePanel::GesturePanel(QWidget *parent)
     overlay->setAttribute(Qt::WA_NoSystemBackground);
     overlay->raise();
     overlay->installEventFilter(this);
-    AccessiblePad::install();
 }
 
 GesturePanel::~GesturePanel() = default;

@@ -1,6 +1,6 @@
 #include "login/local/LinkLabel.h"
 
-#include "login/local/AccessibleLink.h"
+#include "login/common/AccessibleFaces.h"
 
 #include <QCoreApplication>
 #include <QKeyEvent>
@@ -21,7 +21,7 @@ LinkLabel::LinkLabel(QWidget *parent)
 {
     // Not for the mouse: a click leaves the cursor in its field.
     setFocusPolicy(Qt::TabFocus);
-    AccessibleLink::install();
+    AccessibleFaces::install();
 }
 
 LinkLabel::~LinkLabel() = default;

@@ -16,6 +16,7 @@ public:
     explicit LinkLabel(QWidget *parent = nullptr);
     ~LinkLabel() override;
 
+public slots:
     /** Clicks the middle with the left mouse button. The label may be gone when this returns. */
     void click();
 

@@ -1,7 +1,6 @@
 #include "login/local/UserPwdWt.h"
 
-#include "login/local/AccessiblePassword.h"
-#include "login/local/AccessibleToggle.h"
+#include "login/common/AccessibleFaces.h"
 #include "login/local/FieldStyle.h"
 #include "ui_UserPwdWt.h"
 
@@ -43,8 +42,7 @@ UserPwdWt::UserPwdWt(QWidget *parent)
     : ZWidget(parent)
     , ui(std::make_unique<Form<Ui::UserPwdWt>>())
 {
-    AccessiblePassword::install();
-    AccessibleToggle::install();
+    AccessibleFaces::install();
     ui->setupUi(this);
     setAttribute(Qt::WA_StyledBackground);
     setFocusProxy(ui->pwd);

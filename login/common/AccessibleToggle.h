@@ -7,16 +7,14 @@ class QAbstractButton;
 namespace kelvra_login {
 
 /**
- * Announces a button that can be checked to assistive technology, as a check box or, with the dynamic property
- * "page_tab" = true, as a tab. To toggle it is to click it: what is done on a click happens, unlike with Qt's own.
+ * Announces a button that can be checked to assistive technology, as a check box or as a tab. To toggle it is to click
+ * it: what is done on a click happens, unlike with Qt's own.
  */
 class AccessibleToggle : public QAccessibleWidget
 {
 public:
-    /** Makes every button of the program that can be checked be announced so. */
-    static void install();
-
-    explicit AccessibleToggle(QAbstractButton *toggle);
+    /** `role` is CheckBox or PageTab. */
+    AccessibleToggle(QAbstractButton *toggle, QAccessible::Role role);
 
     QAccessible::State state() const override;
     QString text(QAccessible::Text kind) const override;

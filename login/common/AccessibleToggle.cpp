@@ -1,33 +1,12 @@
-#include "login/local/AccessibleToggle.h"
+#include "login/common/AccessibleToggle.h"
 
 #include <QAbstractButton>
 #include <QTimer>
 
 namespace kelvra_login {
 
-namespace {
-
-QAccessibleInterface *create(const QString &, QObject *object)
-{
-    auto *button = qobject_cast<QAbstractButton *>(object);
-    return button && button->isCheckable() ? new AccessibleToggle(button) : nullptr;
-}
-
-QAccessible::Role roleOf(const QAbstractButton *button)
-{
-    return button->property("page_tab").toBool() ? QAccessible::PageTab : QAccessible::CheckBox;
-}
-
-} // namespace
-
-void AccessibleToggle::install()
-{
-    static const bool installed = (QAccessible::installFactory(create), true);
-    Q_UNUSED(installed)
-}
-
-AccessibleToggle::AccessibleToggle(QAbstractButton *toggle)
-    : QAccessibleWidget(toggle, roleOf(toggle))
+AccessibleToggle::AccessibleToggle(QAbstractButton *toggle, QAccessible::Role role)
+    : QAccessibleWidget(toggle, role)
 {
 }
 

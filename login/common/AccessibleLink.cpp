@@ -1,39 +1,16 @@
-#include "login/local/AccessibleLink.h"
+#include "login/common/AccessibleLink.h"
 
-#include "login/local/LinkLabel.h"
-
+#include <QLabel>
 #include <QTextDocumentFragment>
-#include <QTimer>
 
 namespace kelvra_login {
 
-namespace {
-
-QAccessibleInterface *create(const QString &, QObject *object)
-{
-    auto *label = qobject_cast<LinkLabel *>(object);
-    return label ? new AccessibleLink(label) : nullptr;
-}
-
-} // namespace
-
-void AccessibleLink::install()
-{
-    static const bool installed = (QAccessible::installFactory(create), true);
-    Q_UNUSED(installed)
-}
-
-AccessibleLink::AccessibleLink(LinkLabel *label)
+AccessibleLink::AccessibleLink(QLabel *label)
     : QAccessibleWidget(label, QAccessible::Link)
 {
 }
 
 AccessibleLink::~AccessibleLink() = default;
-
-LinkLabel *AccessibleLink::link() const
-{
-    return static_cast<LinkLabel *>(widget());
-}
 
 QAccessible::State AccessibleLink::state() const
 {
@@ -47,7 +24,7 @@ QString AccessibleLink::text(QAccessible::Text kind) const
     const QString given = QAccessibleWidget::text(kind);
     if (kind != QAccessible::Name || !given.isEmpty())
         return given;
-    return QTextDocumentFragment::fromHtml(link()->text()).toPlainText();
+    return QTextDocumentFragment::fromHtml(static_cast<QLabel *>(widget())->text()).toPlainText();
 }
 
 QStringList AccessibleLink::actionNames() const
@@ -58,7 +35,7 @@ QStringList AccessibleLink::actionNames() const
 void AccessibleLink::doAction(const QString &name)
 {
     if (name == pressAction())
-        QTimer::singleShot(0, link(), &LinkLabel::click);
+        QMetaObject::invokeMethod(widget(), "click", Qt::QueuedConnection);
     else
         QAccessibleWidget::doAction(name);
 }

@@ -2,18 +2,15 @@
 
 #include <QAccessibleWidget>
 
+class QLabel;
+
 namespace kelvra_login {
 
-class LinkLabel;
-
-/** Announces a LinkLabel to assistive technology as a link that can be pressed. */
+/** Announces a label with a slot click() to assistive technology as a link that can be pressed. */
 class AccessibleLink : public QAccessibleWidget
 {
 public:
-    /** Makes every LinkLabel of the program be announced so. */
-    static void install();
-
-    explicit AccessibleLink(LinkLabel *label);
+    explicit AccessibleLink(QLabel *label);
 
     QAccessible::State state() const override;
     QString text(QAccessible::Text kind) const override;
@@ -23,9 +20,6 @@ public:
 
 protected:
     ~AccessibleLink() override;
-
-private:
-    LinkLabel *link() const;
 };
 
 } // namespace kelvra_login

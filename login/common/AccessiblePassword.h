@@ -13,9 +13,6 @@ namespace kelvra_login {
 class AccessiblePassword : public QAccessibleWidget
 {
 public:
-    /** Makes every line edit of the program be announced so that belongs to a UserPwdWt or hides its text. */
-    static void install();
-
     explicit AccessiblePassword(QLineEdit *lineEdit);
 
     QAccessible::State state() const override;

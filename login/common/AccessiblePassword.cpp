@@ -1,27 +1,8 @@
-#include "login/local/AccessiblePassword.h"
-
-#include "login/local/UserPwdWt.h"
+#include "login/common/AccessiblePassword.h"
 
 #include <QLineEdit>
 
 namespace kelvra_login {
-
-namespace {
-
-QAccessibleInterface *create(const QString &, QObject *object)
-{
-    auto *edit = qobject_cast<QLineEdit *>(object);
-    const bool secret = edit && (edit->echoMode() != QLineEdit::Normal || qobject_cast<UserPwdWt *>(edit->parent()));
-    return secret ? new AccessiblePassword(edit) : nullptr;
-}
-
-} // namespace
-
-void AccessiblePassword::install()
-{
-    static const bool installed = (QAccessible::installFactory(create), true);
-    Q_UNUSED(installed)
-}
 
 AccessiblePassword::AccessiblePassword(QLineEdit *lineEdit)
     : QAccessibleWidget(lineEdit, QAccessible::EditableText)

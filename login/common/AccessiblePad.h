@@ -4,16 +4,11 @@
 
 namespace kelvra_login {
 
-class GesturePanel;
-
-/** Announces a GesturePanel to assistive technology as one drawing surface: its dots would give the gesture away. */
+/** Announces a gesture pad to assistive technology as one drawing surface: its dots would give the gesture away. */
 class AccessiblePad : public QAccessibleWidget
 {
 public:
-    /** Makes every GesturePanel of the program be announced so. */
-    static void install();
-
-    explicit AccessiblePad(GesturePanel *panel);
+    explicit AccessiblePad(QWidget *pad);
 
     int childCount() const override;
     QAccessibleInterface *child(int index) const override;
