@@ -115,6 +115,17 @@ private slots:
         QCOMPARE(column(child<QTableView>("usersTable"), 0), QStringList({"bob", longest}));
     }
 
+    void undoLeavesATypedPassword()
+    {
+        const QPointer<QDialog> add = openDialog("addUserBt");
+        auto *field = add->findChild<QLineEdit *>("newPwd");
+        QTest::keyClicks(field, "secret");
+        QTest::keySequence(field, QKeySequence::Undo);
+        QCOMPARE(field->text(), QString("secret"));
+        QTest::keyClick(add, Qt::Key_Escape);
+        QTRY_VERIFY(!add);
+    }
+
     void ordinaryUsersOnlyAreRemoved()
     {
         for (const char *name : {"root", "13800001111", "nobody"}) {

@@ -385,6 +385,43 @@ private slots:
         QCOMPARE(pwdEdit()->echoMode(), QLineEdit::Password);
     }
 
+    void erasedPasswordDoesNotComeBack_data()
+    {
+        QTest::addColumn<QString>("password");
+        QTest::addColumn<bool>("remembered");
+        QTest::addColumn<QKeySequence>("erasure");
+        QTest::newRow("character by character") << "ab" << false << QKeySequence("Backspace, Backspace");
+        QTest::newRow("as a whole") << "secret" << false << QKeySequence("Ctrl+A, Del");
+        QTest::newRow("retyped") << "secret" << false << QKeySequence("Ctrl+A, x, Backspace");
+        QTest::newRow("remembered") << "stored" << true << QKeySequence("Ctrl+A, x, Backspace");
+        QTest::newRow("remembered, first key") << "stored" << true << QKeySequence("x, Backspace");
+    }
+
+    void erasedPasswordDoesNotComeBack()
+    {
+        QFETCH(const QString, password);
+        QFETCH(const bool, remembered);
+        QFETCH(const QKeySequence, erasure);
+        newFields();
+        remembered ? pwd()->setPassword(password, true) : QTest::keyClicks(pwdEdit(), password);
+        QTest::keySequence(pwdEdit(), erasure);
+        QTest::mouseClick(eye(), Qt::LeftButton);
+        for (const char *keys : {"Ctrl+Z", "Ctrl+Shift+Z"}) {
+            QTest::keySequence(pwdEdit(), QKeySequence(keys));
+            QCOMPARE(pwdEdit()->text(), QString());
+        }
+        pwdEdit()->undo(); // as a program may
+        QCOMPARE(pwdEdit()->text(), QString());
+    }
+
+    void undoLeavesATypedPassword()
+    {
+        newFields();
+        QTest::keyClicks(pwdEdit(), "secret");
+        QTest::keySequence(pwdEdit(), QKeySequence::Undo);
+        QCOMPARE(pwd()->text(), QString("secret"));
+    }
+
     void rememberedPassword()
     {
         newFields();

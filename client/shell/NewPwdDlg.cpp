@@ -30,6 +30,7 @@ void NewPwdDlg::connectFields()
         connect(field, &QLineEdit::textEdited, this, &NewPwdDlg::forgetRefusal);
         if (field != ui->userName) {
             field->setContextMenuPolicy(Qt::NoContextMenu);
+            field->installEventFilter(this);
             new CapsLockToolTipHandler(this, field, field);
         }
     }
@@ -98,6 +99,17 @@ void NewPwdDlg::changeEvent(QEvent *event)
     if (event->type() == QEvent::LanguageChange)
         retranslate();
     CommonDialog::changeEvent(event);
+}
+
+bool NewPwdDlg::eventFilter(QObject *watched, QEvent *event)
+{
+    // Undo would empty a password field as a whole.
+    if (event->type() == QEvent::KeyPress) {
+        const auto *key = static_cast<QKeyEvent *>(event);
+        if (key->matches(QKeySequence::Undo) || key->matches(QKeySequence::Redo))
+            return true;
+    }
+    return CommonDialog::eventFilter(watched, event);
 }
 
 void NewPwdDlg::keyPressEvent(QKeyEvent *event)

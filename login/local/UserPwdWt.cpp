@@ -19,12 +19,16 @@ constexpr int placeholderLength = 16;
 constexpr char passwordProperty[] = "pwd";
 constexpr int eyeKey = Qt::ALT | Qt::Key_F8; // Tab goes from field to field
 
-bool isClipboardKey(const QKeyEvent &event)
+bool isForbiddenKey(const QKeyEvent &event)
 {
-    // The two delete keys copy what they delete.
-    static constexpr QKeySequence::StandardKey keys[] = {QKeySequence::Paste, QKeySequence::Copy, QKeySequence::Cut,
+    // DeleteEndOfLine and DeleteCompleteLine copy what they delete. Undo empties a field that hides its text.
+    static constexpr QKeySequence::StandardKey keys[] = {QKeySequence::Paste,
+                                                         QKeySequence::Copy,
+                                                         QKeySequence::Cut,
                                                          QKeySequence::DeleteEndOfLine,
-                                                         QKeySequence::DeleteCompleteLine};
+                                                         QKeySequence::DeleteCompleteLine,
+                                                         QKeySequence::Undo,
+                                                         QKeySequence::Redo};
     return std::any_of(std::begin(keys), std::end(keys), [&event](auto key) { return event.matches(key); });
 }
 
@@ -61,6 +65,7 @@ UserPwdWt::UserPwdWt(QWidget *parent)
 
     ui->handlers.connect(eye, &QAction::triggered, this, &UserPwdWt::showPassword);
     ui->handlers.connect(ui->pwd, &QLineEdit::textEdited, this, &UserPwdWt::keepTypedPasswordClean);
+    ui->handlers.connect(ui->pwd, &QLineEdit::textChanged, [this] { forgetEdits(); });
     setState(FieldNormal);
 }
 
@@ -109,6 +114,14 @@ void UserPwdWt::keepTypedPasswordClean(const QString &text)
     else if (standsForRemembered())
         setPassword(QString(), false);
     eye->setVisible(true);
+}
+
+void UserPwdWt::forgetEdits()
+{
+    // A text that is set cannot be undone, and the same text again is no change.
+    const int cursor = ui->pwd->cursorPosition();
+    ui->pwd->setText(ui->pwd->text());
+    ui->pwd->setCursorPosition(cursor);
 }
 
 void UserPwdWt::setPlaceholderText(const QString &text)
@@ -192,12 +205,15 @@ bool UserPwdWt::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == ui->pwd && event->type() == QEvent::KeyPress && handleKeyPress(*static_cast<QKeyEvent *>(event)))
         return true;
+    // On X11 a line edit copies a selection on release of the left button, and pastes one on release of the middle one.
+    if (watched == ui->pwd && event->type() == QEvent::MouseButtonRelease)
+        return true;
     return ZWidget::eventFilter(watched, event);
 }
 
 bool UserPwdWt::handleKeyPress(const QKeyEvent &event)
 {
-    if (isClipboardKey(event))
+    if (isForbiddenKey(event))
         return true;
     // The placeholder fills the field, so that the line edit would refuse the character and report no edit.
     if (standsForRemembered() && !ui->pwd->hasSelectedText() && typesText(event)) {

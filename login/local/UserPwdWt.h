@@ -20,7 +20,8 @@ class UserPwdWt;
 
 /**
  * A framed field for a password of up to 16 characters, with an eye that shows it. It can stand for a remembered
- * password, which it gives to its owner but never shows, and it lets nothing be copied out.
+ * password, which it gives to its owner but never shows. It lets nothing be copied out, and undoes nothing: a password
+ * that has been erased does not come back.
  */
 class UserPwdWt : public ZCOMMON::ZWidget
 {
@@ -60,6 +61,8 @@ private:
     bool standsForRemembered() const;
     bool handleKeyPress(const QKeyEvent &event);
     void keepTypedPasswordClean(const QString &text);
+    /** Leaves the line edit nothing to undo. */
+    void forgetEdits();
     void showPassword(bool shown);
     void updateEyeIcon(bool highlighted);
     void retranslate();
