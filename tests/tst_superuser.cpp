@@ -210,10 +210,7 @@ private slots:
     void passwordIsShownAndCopied()
     {
         const QString password = host.superUser.password = "<b>& W</b>";
-        host.answersRight = true;
-        newScreen(getBackPwd);
-        fillAnswers();
-        press("operBt");
+        showPassword();
         QCOMPARE(edit("answer_1")->text() + edit("answer_3")->text(), QString("onethree"));
         QVERIFY(edit("answer_1")->isReadOnly() && edit("answer_3")->isReadOnly());
         auto *label = child<QLabel>("password");
@@ -236,6 +233,43 @@ private slots:
             LoginAccess::_instance().getbackPassword(parent);
             QVERIFY(gone ? !parent : parent->children().isEmpty());
         }
+    }
+
+    void copiedPasswordIsTakenOff_data()
+    {
+        QTest::addColumn<QString>("end");
+        for (const char *end : {"after a minute", "with Escape", "with the window", "with the dialog"})
+            QTest::newRow(end) << end;
+    }
+
+    void copiedPasswordIsTakenOff()
+    {
+        QFETCH(const QString, end);
+        showPassword();
+        press("operBt");
+        QCOMPARE(QGuiApplication::clipboard()->text(), QString("roots"));
+        auto *lifetime = window->findChild<QTimer *>();
+        QCOMPARE(lifetime->interval(), 60'000);
+        if (end == "after a minute")
+            lifetime->start(1);
+        else if (end == "with Escape")
+            QTest::keyClick(window, Qt::Key_Escape);
+        else if (end == "with the window")
+            window->close();
+        else
+            delete window;
+        QTRY_COMPARE(QGuiApplication::clipboard()->text(), QString());
+    }
+
+    void whatIsCopiedLaterStays()
+    {
+        showPassword();
+        press("operBt");
+        QGuiApplication::clipboard()->setText("other");
+        window->findChild<QTimer *>()->start(1);
+        QTRY_VERIFY(!window->findChild<QTimer *>()->isActive());
+        delete window;
+        QCOMPARE(QGuiApplication::clipboard()->text(), QString("other"));
     }
 
     void languageChange()
@@ -309,6 +343,14 @@ private:
         if (screen != getBackPwd)
             showScreen(screen, {user});
         deeds();
+    }
+
+    void showPassword()
+    {
+        host.answersRight = true;
+        newScreen(getBackPwd);
+        fillAnswers();
+        press("operBt");
     }
 
     PwdTipWt *tip() const { return window->findChild<PwdTipWt *>(); }

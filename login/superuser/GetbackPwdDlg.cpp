@@ -6,11 +6,10 @@
 #include "host/kelvra_worker/SystemWorker.h"
 #include "login/frame/Alerts.h"
 #include "login/frame/LoginWorker.h"
+#include "login/superuser/SecretCopy.h"
 #include "ui_GetbackPwdDlg.h"
 
-#include <QClipboard>
-#include <QEvent>
-#include <QGuiApplication>
+#include <QHideEvent>
 #include <QPointer>
 
 using kelvra_data::UserData;
@@ -24,6 +23,7 @@ GetbackPwdDlg::GetbackPwdDlg(QWidget *parent)
     : CommonDialog(parent, 0, 1)
     , ui(std::make_unique<Form<Ui::GetbackPwdDlg>>())
     , superUserInfo(UserData::_instance().getSuperUserInfo(SystemWorker::_instance().getSuperUserName()))
+    , copy(new SecretCopy(this))
 {
     ui->setupUi(this);
     setTitle(tr("Get Back Password"));
@@ -40,7 +40,7 @@ GetbackPwdDlg::~GetbackPwdDlg() = default;
 void GetbackPwdDlg::slotOperBtClicked()
 {
     if (passwordShown)
-        copyPassword();
+        copy->put(ui->password->text());
     else
         verifyAnswers();
 }
@@ -76,11 +76,6 @@ void GetbackPwdDlg::showPassword()
     LoginLogs::_instance().getbackPwdLog(superUserInfo.userName);
 }
 
-void GetbackPwdDlg::copyPassword() const
-{
-    QGuiApplication::clipboard()->setText(ui->password->text());
-}
-
 bool GetbackPwdDlg::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == ui->importCredentialsBt && isLeftPress(event)) {
@@ -105,6 +100,14 @@ void GetbackPwdDlg::changeEvent(QEvent *event)
     if (event->type() == QEvent::LanguageChange)
         retranslate();
     CommonDialog::changeEvent(event);
+}
+
+void GetbackPwdDlg::hideEvent(QHideEvent *event)
+{
+    // A minimised dialog is still open.
+    if (!event->spontaneous())
+        copy->takeOff();
+    CommonDialog::hideEvent(event);
 }
 
 void GetbackPwdDlg::retranslate()
