@@ -167,6 +167,47 @@ private slots:
         QVERIFY(isShown("newUserBt") && !isShown("saasUserBt"));
     }
 
+    void keysChooseAMethod_data()
+    {
+        QTest::addColumn<bool>("cloud");
+        QTest::addColumn<QKeySequence>("keys");
+        QTest::addColumn<QString>("deed");
+        const QString byDefault = "addSuperUser(admin)", create = "signalLoginEvent(2)", cloud = "signalLoginEvent(0)";
+        QTest::newRow("at once") << true << QKeySequence("Return") << byDefault;
+        QTest::newRow("Tab") << true << QKeySequence("Tab, Enter") << create;
+        QTest::newRow("Tab, once round") << true << QKeySequence("Tab, Tab, Tab, Return") << byDefault;
+        QTest::newRow("Shift+Tab") << true << QKeySequence("Shift+Tab, Space") << cloud;
+        QTest::newRow("arrows") << true << QKeySequence("Down, Right, Up, Return") << create;
+        QTest::newRow("Left") << true << QKeySequence("Left, Return") << cloud;
+        QTest::newRow("without cloud") << false << QKeySequence("Up, Return") << create;
+    }
+
+    void keysChooseAMethod()
+    {
+        QFETCH(const bool, cloud);
+        QFETCH(const QKeySequence, keys);
+        QFETCH(const QString, deed);
+        host.customization.cloudLoginEnabled = cloud;
+        open(new LoginMethodSelWt(nullptr));
+        QTest::keySequence(QApplication::focusWidget(), keys);
+        QCOMPARE(deeds().section(' ', 0, 0), deed);
+    }
+
+    void frameStandsRoundTheChoice()
+    {
+        open(new LoginMethodSelWt(nullptr));
+        holdEnter(window); // since before the page came
+        QCOMPARE(deeds(), QString());
+        QTest::keyClick(window, Qt::Key_Tab);
+        const Brackets brackets; // another language
+        const auto *button = child("newUserBt");
+        QVERIFY(QAccessible::queryAccessibleInterface(child("newUserBt"))->state().focused);
+        const QPoint corner = button->geometry().topLeft() + QPoint(20, -1);
+        QCOMPARE(window->grab().toImage().pixelColor(corner), QColor(Qt::white));
+        window->clearFocus();
+        QVERIFY(window->grab().toImage().pixelColor(corner) != QColor(Qt::white));
+    }
+
     void methodChoices()
     {
         const auto choose = [this](const char *button) {

@@ -109,6 +109,23 @@ private slots:
                  QList<int>({0, -1, 10, 50, 90}));
     }
 
+    void cursorIsInTheFirstFieldThereAndBack()
+    {
+        handOver();
+        QVERIFY(edit("answer_1")->hasFocus());
+        press("backBt");
+        QVERIFY(edit("userWt")->hasFocus());
+        press("createBt");
+        QVERIFY(edit("answer_1")->hasFocus());
+    }
+
+    void cursorIsInTheFirstFieldAfterAGesture()
+    {
+        newScreen(GestureLogin);
+        showScreen(NormalLogin);
+        QCOMPARE(QApplication::focusWidget(), edit("localUserWt"));
+    }
+
     void refusedCreation()
     {
         const QString refused = "addSuperUser(%1) messageAlert(Failed to create super user)";
@@ -270,6 +287,32 @@ private slots:
         QTRY_VERIFY(!window->findChild<QTimer *>()->isActive());
         delete window;
         QCOMPARE(QGuiApplication::clipboard()->text(), QString("other"));
+    }
+
+    void choiceLeadsToTheFirstField_data()
+    {
+        QTest::addColumn<int>("downs");
+        QTest::addColumn<QString>("field");
+        QTest::newRow("default superuser") << 0 << "localUserWt";
+        QTest::newRow("new superuser") << 1 << "userWt";
+        QTest::newRow("cloud account") << 2 << "userWt";
+    }
+
+    void choiceLeadsToTheFirstField()
+    {
+        QFETCH(const int, downs);
+        QFETCH(const QString, field);
+        host.customization.cloudLoginEnabled = true;
+        host.recentAccount = "13800000001";
+        delete window;
+        auto *dialog = new LoginDlg(nullptr);
+        showScreen(LoginMethodSel);
+        open(dialog);
+        for (int i = 0; i < downs; ++i)
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+        QCOMPARE(QApplication::focusWidget()->parentWidget()->objectName(), field);
+        QVERIFY(QApplication::focusWidget()->isVisible());
     }
 
     void languageChange()

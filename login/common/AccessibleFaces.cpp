@@ -1,6 +1,7 @@
 #include "login/common/AccessibleFaces.h"
 
 #include "login/common/AccessibleLink.h"
+#include "login/common/AccessibleMethod.h"
 #include "login/common/AccessiblePad.h"
 #include "login/common/AccessiblePassword.h"
 #include "login/common/AccessibleToggle.h"
@@ -50,6 +51,8 @@ QAccessibleInterface *faceOf(const QString &className, QObject *object)
     if (auto *edit = qobject_cast<QLineEdit *>(widget))
         return isInPasswordField(edit) ? new AccessiblePassword(edit) : nullptr;
     auto *button = qobject_cast<QAbstractButton *>(widget);
+    if (className == QLatin1String("kelvra_login::LoginMethodBt"))
+        return new AccessibleMethod(button);
     if (button && isTab(button))
         return new AccessibleToggle(button, QAccessible::PageTab);
     return button && isEye(button) ? new AccessibleToggle(button, QAccessible::CheckBox) : nullptr;

@@ -19,6 +19,7 @@
 
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QShowEvent>
 
 #include <utility>
 
@@ -441,8 +442,8 @@ void NormalLoginWt::keyPressEvent(QKeyEvent *event)
 void NormalLoginWt::showEvent(QShowEvent *event)
 {
     refreshLinkRow();
-    // The first-run page takes no focus, so that there is none to inherit from it.
-    if (!window()->focusWidget())
+    // Left to itself, the focus would go to a tab, or to the button that led away from this page.
+    if (!event->spontaneous())
         focusField();
     QWidget::showEvent(event);
 }

@@ -9,6 +9,7 @@
 #include "ui_CreateSuperUserWt.h"
 
 #include <QKeyEvent>
+#include <QShowEvent>
 
 using kelvra_data::UserData;
 
@@ -67,8 +68,8 @@ void CreateSuperUserWt::keyPressEvent(QKeyEvent *event)
 
 void CreateSuperUserWt::showEvent(QShowEvent *event)
 {
-    // The first-run page takes no focus, so that there is none to inherit from it.
-    if (!window()->focusWidget())
+    // Shown again, the page would give the focus to the button that led away from it.
+    if (!event->spontaneous())
         ui->userWt->setFocus();
     QWidget::showEvent(event);
 }

@@ -12,6 +12,7 @@
 
 #include <QKeyEvent>
 #include <QListWidget>
+#include <QShowEvent>
 
 using kelvra_base::ComboBox;
 using kelvra_data::UserData;
@@ -41,8 +42,6 @@ SetSecretAnswerWt::SetSecretAnswerWt(QWidget *parent)
                              &QLineEdit::clear);
     }
     fillQuestions();
-    // The questions stand already.
-    ui->answer_1->setFocus();
     ui->handlers.connect(ui->backBt, &QPushButton::clicked, this, &SetSecretAnswerWt::slotBackBtClicked);
     ui->handlers.connect(ui->loginBt, &QPushButton::clicked, this, &SetSecretAnswerWt::slotLoginBtClicked);
 }
@@ -121,6 +120,14 @@ void SetSecretAnswerWt::keyPressEvent(QKeyEvent *event)
 {
     if (clickOnEnter(this, ui->loginBt, event))
         QWidget::keyPressEvent(event);
+}
+
+void SetSecretAnswerWt::showEvent(QShowEvent *event)
+{
+    // The questions stand already. Shown again, the page would give the focus to the button that led away from it.
+    if (!event->spontaneous())
+        ui->answer_1->setFocus();
+    QWidget::showEvent(event);
 }
 
 void SetSecretAnswerWt::changeEvent(QEvent *event)
