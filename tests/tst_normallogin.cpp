@@ -116,6 +116,41 @@ private slots:
         }
     }
 
+    void typingKeepsARememberedLoginAway_data()
+    {
+        QTest::addColumn<QString>("lastUser");
+        QTest::addColumn<QString>("nameKeys");
+        QTest::addColumn<QString>("passwordKeys");
+        QTest::newRow("name edited again") << "alice"
+                                           << "x\b"
+                                           << "ab";
+        QTest::newRow("remembered password typed over") << "alice"
+                                                        << ""
+                                                        << "xab"; // x clears the field
+        QTest::newRow("password typed after the name") << ""
+                                                       << "alice"
+                                                       << "ab";
+    }
+
+    void typingKeepsARememberedLoginAway()
+    {
+        QFETCH(QString, lastUser);
+        QFETCH(QString, nameKeys);
+        QFETCH(QString, passwordKeys);
+        remember();
+        host.lastLocalUser = lastUser;
+        window = new NormalLoginWt(nullptr);
+        window->show();
+        QTest::keyClicks(nameEdit(), nameKeys);
+        QTest::keyClicks(pwdEdit(), passwordKeys);
+        deeds();
+        const auto timers = window->findChildren<QTimer *>();
+        const auto isActive = [](const QTimer *timer) { return timer->isActive(); };
+        QTRY_VERIFY(std::none_of(timers.begin(), timers.end(), isActive));
+        QCOMPARE(deedsSoon(), QString());
+        QCOMPARE(nameEdit()->text() + ' ' + pwdEdit()->text(), QString("alice ab"));
+    }
+
     void clicksAndKeys()
     {
         newPage();
@@ -250,8 +285,7 @@ private slots:
         host.recentAccount = "139";
         newPage();
         QVERIFY(shownPage() == "cloud saasPwdLoginPage" && autoLoginBox()->isChecked());
-        QTest::qWait(idleMs); // a remembered local login stays behind the cloud tab
-        QCOMPARE(deeds(), QString());
+        QCOMPARE(deedsSoon(), QString()); // a remembered local login stays behind the cloud tab
         LoginWorker::_instance().switchUser();
         newPage();
         QCOMPARE(host.autoLogins.size(), 1);
@@ -274,8 +308,7 @@ private slots:
         delete window; // while it waits for three things
         emit LoginSignals::_instance().signalSaasLoginEvent(SaasPwdLogin, {});
         deeds();
-        QTest::qWait(idleMs);
-        QCOMPARE(deeds(), QString());
+        QCOMPARE(deedsSoon(), QString());
     }
 
     void fieldStates()
@@ -437,7 +470,9 @@ private slots:
         };
         const QString kept = QString(16, QChar(1)) + " stored stored";
         const QString cleared = "   eye";
+        eye()->click();
         QCOMPARE(after(Qt::Key_Left, ""), kept);
+        QVERIFY(!pwdEdit()->displayText().contains(QChar(1)));
         QCOMPARE(after(Qt::Key_C, "\x03", Qt::ControlModifier), kept);
         QCOMPARE(after(Qt::Key_Space, " "), cleared);
         QCOMPARE(after(Qt::Key_Backspace, ""), cleared);
@@ -501,6 +536,13 @@ private:
             QTest::mousePress(child(by), Qt::LeftButton);
         if (window && child(by)) // an alert may have outlived it
             QTest::mouseRelease(child(by), Qt::LeftButton);
+        return deeds();
+    }
+
+    // What is done by the time an automatic login would be.
+    static QString deedsSoon()
+    {
+        QTest::qWait(idleMs);
         return deeds();
     }
 

@@ -141,6 +141,7 @@ void NormalLoginWt::connectFields()
         ui->localPwdWt->setState(focused ? FieldFocused : FieldNormal);
     });
     ui->handlers.connect(ui->localUserWt->lineEdit(), &QLineEdit::textEdited, this, &NormalLoginWt::slotUserNameEdited);
+    ui->handlers.connect(ui->localPwdWt->lineEdit(), &QLineEdit::textEdited, [this] { passwordTyped = true; });
     ui->handlers.connect(nameTimer, &QTimer::timeout, this, &NormalLoginWt::checkRememberedLogin);
     ui->handlers.connect(ui->localLoginBt, &QPushButton::clicked, this, &NormalLoginWt::slotLocalLoginBtClicked);
     ui->handlers.connect(countDownTimer, &QTimer::timeout, this, &NormalLoginWt::slotCountDownTimeout);
@@ -221,10 +222,16 @@ void NormalLoginWt::cloudAutoLoginAnswered(const kelvra_saas::Response &response
         tr("Nimbra account auto login failure:%1").arg(kelvra_saas::saasErrorMsg(response.code, response.subCode)));
 }
 
+QStringList NormalLoginWt::entered() const
+{
+    // What the field shows tells a remembered password from the same one typed.
+    return {ui->localUserWt->text(), ui->localPwdWt->text(), ui->localPwdWt->lineEdit()->text()};
+}
+
 void NormalLoginWt::clickLoginSoon()
 {
-    ui->handlers.after(autoLoginDelayMs, [this] {
-        if (!quitting && !SystemWorker::_instance().isLoginSuccess())
+    ui->handlers.after(autoLoginDelayMs, [this, remembered = entered()] {
+        if (entered() == remembered && !quitting && !SystemWorker::_instance().isLoginSuccess())
             emit ui->localLoginBt->clicked();
     });
 }
@@ -315,6 +322,7 @@ void NormalLoginWt::slotQuitSystem()
 void NormalLoginWt::slotUserNameEdited()
 {
     ui->localPwdWt->forgetRememberedPassword();
+    passwordTyped = false;
     nameTimer->start(nameDelayMs);
     refreshLinkRow();
 }
@@ -323,7 +331,8 @@ void NormalLoginWt::checkRememberedLogin()
 {
     const QString userName = ui->localUserWt->text();
     auto &worker = LoginWorker::_instance();
-    if (!worker.isLoginRemembered(userName))
+    const bool passwordGiven = passwordTyped && !ui->localPwdWt->text().isEmpty();
+    if (passwordGiven || !worker.isLoginRemembered(userName))
         return;
     ui->localPwdWt->setPassword(UserData::_instance().getUserInfo(userName).password, true);
     bool storedLock = false;

@@ -4,6 +4,7 @@
 
 #include <QElapsedTimer>
 #include <QMap>
+#include <QStringList>
 #include <QTimer>
 #include <QWidget>
 
@@ -61,6 +62,9 @@ private:
     void selectTab(bool cloud, QWidget *page);
     void slotUserNameEdited();
     void checkRememberedLogin();
+    /** The user name, the password, and what the password field shows of it. */
+    QStringList entered() const;
+    /** Clicks the login button in a moment, if name and remembered password are still the same then. */
     void clickLoginSoon();
     void tryCloudAutoLogin();
     void cloudAutoLoginAnswered(const kelvra_saas::Response &response, const QString &account);
@@ -85,6 +89,7 @@ private:
     QWidget *currentCloudPage = nullptr;
     kelvra_base::CapsLockToolTipHandler *capsLockHandler;
     bool loginRemembered = false;
+    bool passwordTyped = false; ///< since the last edit of the user name
     bool quitting = false;
     QString tipAfterRelease;
 };

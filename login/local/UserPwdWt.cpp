@@ -88,6 +88,10 @@ void UserPwdWt::setPassword(const QString &text, bool remembered)
         ui->pwd->clear();
         eye->setVisible(true);
     } else if (remembered) {
+        // An open eye would show the placeholders as boxes.
+        eye->setChecked(false);
+        ui->pwd->setEchoMode(QLineEdit::Password);
+        updateEyeIcon(styleSheet() == frameHighlightedStyle);
         ui->pwd->setText(QString(placeholderLength, placeholderChar));
         eye->setVisible(false);
     } else {
