@@ -60,12 +60,13 @@ inline void showScreen(int event, const QStringList &params = {})
     emit kelvra_login::LoginSignals::_instance().signalLoginEvent(kelvra_login::LoginEvent(event), params);
 }
 
-/** The text of the tool tip that hangs from the line edit's upper edge, if one does. */
+/** The text of the tool tip that hangs from the line edit's upper edge, if one does and the keys go there. */
 inline QString tipAt(const QLineEdit *edit)
 {
     for (const QWidget *window : QApplication::topLevelWidgets()) {
         const QPoint offset = window->pos() - edit->mapToGlobal(QPoint(0, 0));
-        if (window->inherits("QTipLabel") && window->isVisible() && offset.x() < 6 && offset.y() / 24 == 0)
+        const bool hangs = window->inherits("QTipLabel") && window->isVisible();
+        if (hangs && edit->hasFocus() && offset.x() < 6 && offset.y() / 24 == 0)
             return QToolTip::text();
     }
     return QString();

@@ -168,6 +168,10 @@ private slots:
         }
         holdEnter(pwdEdit());
         QCOMPARE(deeds(), QString());
+        pressed("localLoginBt", "alice", "");
+        QTest::keyClick(QApplication::focusWidget(), 'x');
+        QCOMPARE(pwdEdit()->text(), QString("x"));
+        QTRY_VERIFY(!QToolTip::isVisible()); // it lies over what is typed
         click("localAutoLogin", {8, 14});
         QCOMPARE(submit("localLoginBt", "alice", "secret"), loginDeeds("true"));
         QCOMPARE(pressed("forgetPwd", "", ""), emptyName);

@@ -168,6 +168,12 @@ private slots:
         QTRY_VERIFY(QToolTip::isVisible());
         QTest::keyClick(edit, Qt::Key_CapsLock);
         QTRY_VERIFY(!QToolTip::isVisible());
+        QTest::keyClick(edit, Qt::Key_CapsLock);
+        other->setFocus();
+        edit->setFocus();
+        QToolTip::showText(QPoint(0, 0), "The reason for the focus", edit);
+        QCoreApplication::processEvents();
+        QCOMPARE(QToolTip::text(), QString("The reason for the focus"));
     }
 
     void alertAnswers()

@@ -87,7 +87,8 @@ bool CapsLockToolTipHandler::eventFilter(QObject *watched, QEvent *event)
     case QEvent::FocusIn:
         // Later, as the rest of the focus change takes every tip away.
         QTimer::singleShot(0, this, [this] {
-            if (d->lineEdit && d->lineEdit->hasFocus())
+            // What is shown by then is the reason why the field has been given the focus.
+            if (d->lineEdit && d->lineEdit->hasFocus() && !QToolTip::isVisible())
                 d->refresh();
         });
         break;

@@ -13,7 +13,6 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QRegExpValidator>
-#include <QToolTip>
 
 namespace kelvra_login {
 
@@ -66,13 +65,8 @@ bool checkPhoneNumber(UserNameWt *field)
 {
     if (field->text().size() == phoneNumberLength)
         return true;
-    showTip(field, translated(QT_TRANSLATE_NOOP("kelvra_login::CloudPageParts", "Illegal mobile phone number")));
+    showFieldError(field, translated(QT_TRANSLATE_NOOP("kelvra_login::CloudPageParts", "Illegal mobile phone number")));
     return false;
-}
-
-void showTip(QWidget *field, const QString &text)
-{
-    QToolTip::showText(field->mapToGlobal(QPoint(0, 0)), text, field);
 }
 
 void setLoggingIn(QPushButton *loginBt, bool loggingIn)

@@ -44,9 +44,6 @@ void followFocus(Field *field, Handlers &handlers)
                      [field](bool focused) { field->setState(focused ? FieldFocused : FieldNormal); });
 }
 
-/** Shows `text` as a tool tip at the top left corner of `field`. */
-void showTip(QWidget *field, const QString &text);
-
 /** Marks the login button of a page, and says on it, that a login is under way or not. */
 void setLoggingIn(QPushButton *loginBt, bool loggingIn);
 bool isLoggingIn(const QPushButton *loginBt);

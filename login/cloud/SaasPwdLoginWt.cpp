@@ -56,7 +56,7 @@ void SaasPwdLoginWt::login()
         return;
     const QString password = ui->pwdWt->text();
     if (password.size() < minPasswordLength) {
-        showTip(ui->pwdWt, tr("Invalid password"));
+        showFieldError(ui->pwdWt, tr("Invalid password"));
         return;
     }
 

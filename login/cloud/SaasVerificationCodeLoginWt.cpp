@@ -94,7 +94,7 @@ void SaasVerificationCodeLoginWt::login()
         return;
     const QString code = ui->verificationCode->text();
     if (code.size() != codeLength) {
-        showTip(ui->verificationCode, tr("Invalid verification code"));
+        showFieldError(ui->verificationCode, tr("Invalid verification code"));
         return;
     }
 

@@ -7,6 +7,24 @@
 
 namespace kelvra_login {
 
+namespace {
+
+void hideTipOnTyping(QWidget *field, const QString &tip)
+{
+    // There is one tool tip at a time.
+    static QMetaObject::Connection typing;
+    QObject::disconnect(typing);
+    const QWidget *proxy = field->focusProxy();
+    if (const auto *edit = qobject_cast<const QLineEdit *>(proxy ? proxy : field))
+        typing = QObject::connect(edit, &QLineEdit::textEdited, edit, [tip] {
+            // By now it may be the tip about Caps Lock.
+            if (QToolTip::text() == tip)
+                QToolTip::hideText();
+        });
+}
+
+} // namespace
+
 void applyStyle(QWidget *widget, const QString &styleSheet)
 {
     if (widget->styleSheet() != styleSheet)
@@ -18,9 +36,14 @@ void showIcon(QLabel *label, const QString &fileName)
     label->setPixmap(QIcon(fileName).pixmap(label->maximumSize()));
 }
 
-void showFieldError(QLineEdit *lineEdit, const QString &text)
+void showFieldError(QWidget *field, const QString &text)
 {
-    QToolTip::showText(lineEdit->mapToGlobal(QPoint(0, 0)), text, lineEdit);
+    // A field out of sight would take the keys unseen.
+    if (field->isVisible())
+        field->setFocus();
+    // Only now: a change of focus hides every tool tip.
+    QToolTip::showText(field->mapToGlobal(QPoint(0, 0)), text, field);
+    hideTipOnTyping(field, text);
 }
 
 void nameAfterPlaceholder(QLineEdit *lineEdit)

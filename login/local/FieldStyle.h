@@ -33,8 +33,11 @@ void applyStyle(QWidget *widget, const QString &styleSheet);
 /** Shows an icon in a label of fixed size, in its form for dense screens where the screen is one. */
 void showIcon(QLabel *label, const QString &fileName);
 
-/** Shows `text` as a tool tip at the line edit's top left corner. */
-void showFieldError(QLineEdit *lineEdit, const QString &text);
+/**
+ * Puts the cursor in the field at fault and shows `text` as a tool tip at its top left corner. The tip lies over the
+ * line edit, so it goes when the user types.
+ */
+void showFieldError(QWidget *field, const QString &text);
 
 /** Gives the line edit's placeholder to assistive technology for its name. */
 void nameAfterPlaceholder(QLineEdit *lineEdit);

@@ -33,7 +33,7 @@ public:
     void setState(int state);
     /** Disables the field for good and shows it so. */
     void setFieldDisabled();
-    /** Shows `text` as a tool tip at the line edit. */
+    /** Puts the cursor in the line edit, unless disabled, and shows `text` as a tool tip there. */
     void showError(const QString &text);
 
     /** The line edit inside, for its signals. */

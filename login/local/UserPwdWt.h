@@ -45,7 +45,7 @@ public:
     void setState(int state);
     /** Takes the lock icon away. */
     void hideIcon();
-    /** Shows `text` as a tool tip at the line edit. */
+    /** Puts the cursor in the line edit and shows `text` as a tool tip there. */
     void showError(const QString &text);
 
     /** The line edit inside, for its signals. */
