@@ -431,7 +431,6 @@ private slots:
         QTest::newRow("as a whole") << "secret" << false << QKeySequence("Ctrl+A, Del");
         QTest::newRow("retyped") << "secret" << false << QKeySequence("Ctrl+A, x, Backspace");
         QTest::newRow("remembered") << "stored" << true << QKeySequence("Ctrl+A, x, Backspace");
-        QTest::newRow("remembered, first key") << "stored" << true << QKeySequence("x, Backspace");
     }
 
     void erasedPasswordDoesNotComeBack()

@@ -122,6 +122,8 @@ private slots:
     void cursorIsInTheFirstFieldAfterAGesture()
     {
         newScreen(GestureLogin);
+        QTest::keyClick(window, Qt::Key_Tab);
+        QVERIFY(child("autoLogin")->hasFocus());
         showScreen(NormalLogin);
         QCOMPARE(QApplication::focusWidget(), edit("localUserWt"));
     }
