@@ -169,6 +169,10 @@ private slots:
         holdEnter(pwdEdit());
         QCOMPARE(deeds(), QString());
         pressed("localLoginBt", "alice", "");
+        QTest::mouseMove(child("localLoginBt"));
+        QTest::mouseMove(child("label"));
+        deedsSoon();
+        QCOMPARE(tipAt(pwdEdit()), QString("Password can not be empty!"));
         QTest::keyClick(QApplication::focusWidget(), 'x');
         QCOMPARE(pwdEdit()->text(), QString("x"));
         QTRY_VERIFY(!QToolTip::isVisible()); // it lies over what is typed

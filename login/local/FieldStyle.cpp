@@ -1,29 +1,12 @@
 #include "login/local/FieldStyle.h"
 
+#include "login/local/FieldTip.h"
+
 #include <QIcon>
 #include <QLabel>
 #include <QLineEdit>
-#include <QToolTip>
 
 namespace kelvra_login {
-
-namespace {
-
-void hideTipOnTyping(QWidget *field, const QString &tip)
-{
-    // There is one tool tip at a time.
-    static QMetaObject::Connection typing;
-    QObject::disconnect(typing);
-    const QWidget *proxy = field->focusProxy();
-    if (const auto *edit = qobject_cast<const QLineEdit *>(proxy ? proxy : field))
-        typing = QObject::connect(edit, &QLineEdit::textEdited, edit, [tip] {
-            // By now it may be the tip about Caps Lock.
-            if (QToolTip::text() == tip)
-                QToolTip::hideText();
-        });
-}
-
-} // namespace
 
 void applyStyle(QWidget *widget, const QString &styleSheet)
 {
@@ -42,8 +25,7 @@ void showFieldError(QWidget *field, const QString &text)
     if (field->isVisible())
         field->setFocus();
     // Only now: a change of focus hides every tool tip.
-    QToolTip::showText(field->mapToGlobal(QPoint(0, 0)), text, field);
-    hideTipOnTyping(field, text);
+    FieldTip::show(field, text);
 }
 
 void nameAfterPlaceholder(QLineEdit *lineEdit)
