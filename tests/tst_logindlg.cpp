@@ -11,6 +11,9 @@
 using namespace kelvra_login;
 using kelvra_contact::SystemMsg;
 
+using Happening = std::function<void()>;
+Q_DECLARE_METATYPE(Happening)
+
 namespace {
 
 const QRect track(40, 423, 780, 7);
@@ -123,6 +126,77 @@ private slots:
         host.whileMessageBoxIsOpen = [this] { delete window; };
         emit msg->signalDgwAbnormal("broken");
         QVERIFY(!window);
+    }
+
+    void fatalMessageQuitsOnceWhateverBecomesOfTheDialog_data()
+    {
+        QTest::addColumn<Happening>("whileItIsOpen");
+        QTest::newRow("deleted") << Happening([this] { delete window; });
+        QTest::newRow("closed and deleted") << Happening([this] {
+            window->close();
+            delete window;
+        });
+        QTest::newRow("loaded") << Happening([this] {
+            emit msg->signalSystemInitProgress(100);
+            QTRY_VERIFY(!window);
+        });
+    }
+
+    void fatalMessageQuitsOnceWhateverBecomesOfTheDialog()
+    {
+        QFETCH(Happening, whileItIsOpen);
+        host.whileMessageBoxIsOpen = whileItIsOpen;
+        emit msg->signalDgwAbnormal("broken");
+        QCOMPARE(host.callsOf({"prepareQuit", "quit"}).size(), 2);
+    }
+
+    void dialogMayDieOfWhatItAnnounces_data()
+    {
+        QTest::addColumn<QByteArray>("announcement");
+        QTest::addColumn<QStringList>("announced");
+        QTest::newRow("loading begins") << QByteArray(SIGNAL(signalLoginSuccess()))
+                                        << QStringList({"success(shown)", "progress(50)"});
+        QTest::newRow("loading is half done")
+            << QByteArray(SIGNAL(signalSystemInitProgress(int))) << QStringList({"success(shown)", "progress(50)"});
+        QTest::newRow("loading ends") << QByteArray(SIGNAL(signalSystemInitFinished()))
+                                      << QStringList({"success(shown)", "progress(50)", "finished(hidden)"});
+        QTest::newRow("the client will quit")
+            << QByteArray(SIGNAL(signalPrepareQuitSystem()))
+            << QStringList({"success(shown)", "progress(50)", "prepareQuit(shown)", "quit(hidden)"});
+        QTest::newRow("the client quits")
+            << QByteArray(SIGNAL(signalQuitSystem()))
+            << QStringList({"success(shown)", "progress(50)", "prepareQuit(shown)", "quit(shown)"});
+    }
+
+    void dialogMayDieOfWhatItAnnounces()
+    {
+        QFETCH(QByteArray, announcement);
+        QFETCH(QStringList, announced);
+        const auto connection = connect(msg, announcement.constData(), this, SLOT(deleteWindow()));
+        emit LoginSignals::_instance().signalLoginSuccess();
+        if (window && announced.last().startsWith("finished"))
+            window->findChild<SplashScreen *>()->slotSmoothProgress(100);
+        else if (window)
+            window->close();
+        disconnect(connection);
+        QVERIFY(!window);
+        QCOMPARE(host.callsOf({"success", "progress", "finished", "prepareQuit", "quit"}), announced);
+    }
+
+    void dialogMayDieOfALoginWhileItIsBuilt()
+    {
+        delete window;
+        host.lastUserType = kelvra_worker::CloudUser;
+        host.customization.cloudLoginEnabled = true;
+        host.whileCloudIsAsked = [] {
+            const auto asked = host.autoLogins.last();
+            asked.answer({asked.requestId, kelvra_saas::successCode, 0, {}}, asked.account);
+        };
+        QObject context;
+        connect(msg, &SystemMsg::signalLoginSuccess, &context, [] { qDeleteAll(dialogs()); });
+        LoginInit::_instance().login(kelvra_worker::CloudUser, {}, true);
+        QVERIFY(dialogs().isEmpty());
+        QVERIFY(host.loginSuccess);
     }
 
     void repeatedStartBringsTheDialogBack()
@@ -243,6 +317,9 @@ protected:
         painted = painted || (event->type() == QEvent::Paint && watched->objectName() == "loginWt");
         return QObject::eventFilter(watched, event);
     }
+
+private slots:
+    void deleteWindow() { delete window; }
 
 private:
     static QImage builtIn()

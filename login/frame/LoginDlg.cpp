@@ -13,8 +13,6 @@
 #include <QPointer>
 #include <QPushButton>
 
-#include <utility>
-
 using kelvra_base::LogoLabel;
 using kelvra_base::ZMessageBox;
 using kelvra_contact::SystemMsg;
@@ -29,10 +27,8 @@ constexpr int closeBtSize = 14;
 constexpr int closeBtMargin = 15; // to the dialog's top and right edge
 constexpr int loadedHalf = 50;    // percent: where loading stands once the login is accepted
 
-void announceQuit(bool &announced)
+void announceQuit()
 {
-    if (std::exchange(announced, true))
-        return;
     emit SystemMsg::_instance().signalPrepareQuitSystem();
     emit SystemMsg::_instance().signalQuitSystem();
 }
@@ -81,10 +77,9 @@ void LoginDlg::quitSystem()
 {
     if (hasEnded())
         return;
-    // Whoever hears that the client quits may take the dialog with it.
+    state = State::Quitting;
     const QPointer<LoginDlg> self(this);
-    const std::shared_ptr<bool> announced = quitAnnounced;
-    announceQuit(*announced);
+    announceQuit();
     if (self)
         reject();
 }
@@ -93,15 +88,17 @@ void LoginDlg::quitWithMessage(const QString &message)
 {
     if (hasEnded())
         return;
+    // The dialog may end under the open message, and be gone. The client has to quit all the same, once.
     const QPointer<LoginDlg> self(this);
-    const std::shared_ptr<bool> announced = quitAnnounced;
+    bool quitHeard = false;
+    Handlers whileOpen;
+    whileOpen.connect(&SystemMsg::_instance(), &SystemMsg::signalPrepareQuitSystem, [&quitHeard] { quitHeard = true; });
     if (!message.isEmpty())
         ZMessageBox::warning(this, message, kelvra_base::OkButton, false);
-    // Loading may have ended the dialog under the open message; the client has to quit all the same.
-    if (!self || self->loaded)
-        announceQuit(*announced);
-    else
+    if (self && !self->hasEnded())
         quitSystem();
+    else if (!quitHeard)
+        announceQuit();
 }
 
 void LoginDlg::bringToFront()
@@ -125,11 +122,13 @@ void LoginDlg::slotCloseBtClicked()
 
 void LoginDlg::slotLoginSuccess()
 {
-    if (hasEnded() || ui->stackedWidget->currentIndex() == splashPage)
+    if (state != State::LoggingIn)
         return;
+    state = State::Loading;
     ui->stackedWidget->setCurrentIndex(splashPage);
     logo->hide();
     repaint();
+    // The dialog may be gone when either returns.
     emit SystemMsg::_instance().signalLoginSuccess();
     emit SystemMsg::_instance().signalSystemInitProgress(loadedHalf);
 }
@@ -138,10 +137,12 @@ void LoginDlg::slotSystemLoadingFinished()
 {
     if (hasEnded())
         return;
-    loaded = true;
+    state = State::Loaded;
+    const QPointer<LoginDlg> self(this);
     hide();
     emit SystemMsg::_instance().signalSystemInitFinished();
-    deleteLater();
+    if (self)
+        deleteLater();
 }
 
 void LoginDlg::closeEvent(QCloseEvent *event)

@@ -19,7 +19,8 @@ class LoginDlg;
 
 /**
  * The module's window: the login widget until a user is in, then the splash screen until the client has loaded,
- * when it hides and deletes itself. Closing it in any other way quits the client.
+ * when it hides and deletes itself. Closing it in any other way quits the client. Whoever hears what it announces may
+ * delete it.
  */
 class LoginDlg : public ZCOMMON::MoveableDialog
 {
@@ -41,9 +42,11 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
+    enum class State { LoggingIn, Loading, Loaded, Quitting };
+
     void createOverlays();
     /** What arrives once the client quits or has loaded comes too late for the dialog. */
-    bool hasEnded() const { return *quitAnnounced || loaded; }
+    bool hasEnded() const { return state == State::Loaded || state == State::Quitting; }
     void quitSystem();
     void quitWithMessage(const QString &message);
     void bringToFront();
@@ -51,9 +54,7 @@ private:
     const std::unique_ptr<Form<Ui::LoginDlg>> ui;
     kelvra_base::LogoLabel *logo = nullptr;
     QPushButton *closeBt = nullptr;
-    // Shared with who waits for an answer to a fatal message: the dialog may be gone by then.
-    const std::shared_ptr<bool> quitAnnounced = std::make_shared<bool>(false);
-    bool loaded = false;
+    State state = State::LoggingIn;
 };
 
 } // namespace kelvra_login

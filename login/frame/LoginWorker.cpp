@@ -16,6 +16,7 @@
 #include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
+#include <QPointer>
 #include <QStandardPaths>
 
 using kelvra_base::BaseTools;
@@ -43,8 +44,11 @@ constexpr int handedOverParams = 2;
 constexpr qint64 minCredentialsBytes = 128;
 constexpr qint64 maxCredentialsBytes = 256;
 
-void showDialog(LoginDlg *dialog)
+// Building a screen may have logged a user in, and whoever heard of that have deleted the dialog.
+void showDialog(const QPointer<LoginDlg> &dialog)
 {
+    if (!dialog)
+        return;
     dialog->setDefaultPos(BaseTools::defaultPos(dialog));
     dialog->show();
 }
@@ -68,7 +72,7 @@ LoginWorker::~LoginWorker() = default;
 void LoginWorker::login(UserType type, const QStringList &params, bool allowed)
 {
     autoLoginAllowed = allowed;
-    auto *dialog = new LoginDlg(nullptr);
+    const QPointer<LoginDlg> dialog = new LoginDlg(nullptr);
 
     if (UserData::_instance().isFirstLogin()) {
         emitLoginEvent(LoginMethodSel);
@@ -157,7 +161,7 @@ void LoginWorker::switchUser()
 {
     autoLoginAllowed = false;
     handedOver = std::make_unique<Handlers>(); // what is still to come of a handed-over login does not
-    auto *dialog = new LoginDlg(nullptr);
+    const QPointer<LoginDlg> dialog = new LoginDlg(nullptr);
     emitLoginEvent(NormalLogin);
     showDialog(dialog);
 }

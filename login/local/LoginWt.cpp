@@ -8,6 +8,7 @@
 #include <QEvent>
 #include <QListWidget>
 #include <QPainter>
+#include <QPointer>
 #include <QShortcut>
 
 using kelvra_base::ComboBox;
@@ -80,10 +81,14 @@ QWidget *LoginWt::screen(LoginEvent event) const
 void LoginWt::slotLoginEvent(LoginEvent event, QStringList params)
 {
     const ScreenTable::Screen *entry = ScreenTable::find(event);
+    // A screen may log a user in while it is made or shown, and whoever hears of that may delete the dialog.
+    const QPointer<LoginWt> self(this);
     if (!pageIndex.contains(event)) {
         if (!entry)
             return;
         QWidget *created = entry->create(params, ui->stackedWidget);
+        if (!self)
+            return;
         if (event == CreateSuperUser)
             created->installEventFilter(this);
         pageIndex.insert(event, ui->stackedWidget->count());
@@ -91,7 +96,7 @@ void LoginWt::slotLoginEvent(LoginEvent event, QStringList params)
     }
     ui->stackedWidget->setCurrentIndex(pageIndex.value(event));
 
-    if (entry && entry->afterShowing)
+    if (self && entry && entry->afterShowing)
         entry->afterShowing(*this, params);
 }
 

@@ -83,6 +83,9 @@ NormalLoginWt::NormalLoginWt(QWidget *parent)
     connectFields();
     connectPages();
     connectHub();
+    // Last: the page may be gone when this returns, should the answer come at once.
+    if (ui->saasUserTab->isChecked() && LoginWorker::_instance().isAutoLoginAllowed())
+        tryCloudAutoLogin();
 }
 
 NormalLoginWt::~NormalLoginWt() = default;
@@ -117,14 +120,10 @@ bool NormalLoginWt::isLocked()
 
 void NormalLoginWt::showFirstPage()
 {
-    if (cloudLoginEnabled() && SystemWorker::_instance().lastLoggedUserType() == kelvra_worker::CloudUser) {
-        selectTab(true, ui->saasPwdLoginPage);
-        if (LoginWorker::_instance().isAutoLoginAllowed())
-            tryCloudAutoLogin();
-        return;
-    }
-    selectTab(false, ui->localPwdLoginPage);
-    if (loginRemembered)
+    const bool cloud =
+        cloudLoginEnabled() && SystemWorker::_instance().lastLoggedUserType() == kelvra_worker::CloudUser;
+    selectTab(cloud, cloud ? ui->saasPwdLoginPage : ui->localPwdLoginPage);
+    if (!cloud && loginRemembered)
         clickLoginSoon();
 }
 
@@ -407,9 +406,10 @@ bool NormalLoginWt::linkPressed(QObject *link)
         gesturePressed();
         return true;
     }
+    const QPointer<NormalLoginWt> self(this);
     if (link == ui->createUser)
         emit LoginSignals::_instance().signalLoginEvent(CreateSuperUser, {});
-    return false;
+    return !self;
 }
 
 bool NormalLoginWt::eventFilter(QObject *watched, QEvent *event)

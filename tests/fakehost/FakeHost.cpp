@@ -211,10 +211,18 @@ void SystemAssistant::messageAlert(const QString &title, const QString &alertTex
 
 // Cloud library -----------------------------------------------------------------------------------------------------
 
+template <typename Calls, typename Call>
+void keep(Calls &calls, const Call &call)
+{
+    calls.append(call);
+    runOnce(host.whileCloudIsAsked);
+}
+
 template <typename Callback, typename... Rest>
 void keepCall(const QString &requestId, const Callback &callback, const Rest &...rest)
 {
-    host.cloudCalls.append({requestId, [=](const Response &response) { callback(response, rest...); }});
+    keep(host.cloudCalls,
+         FakeHost::CloudCall{requestId, [=](const Response &response) { callback(response, rest...); }});
 }
 
 WITHOUT_PRIVATE_STATE(kelvra_saas, LoginWorker)
@@ -228,15 +236,15 @@ DONE(LoginWorker::getVerificationCode, (const VerificationCodeReq &request, cons
 DONE(LoginWorker::getAccountAfterScanQRCode, (Text requestId, const AccountCallback &callback), (),
      keepCall(requestId, callback, QString("13912345678")))
 DONE(LoginWorker::getLoginQRCode, (Text requestId, const QRCodeCallback &callback), (),
-     host.qrCodeRequests.append({requestId, callback}))
+     keep(host.qrCodeRequests, FakeHost::QRCodeCall<LoginWorker::QRCodeCallback>{requestId, callback}))
 DONE(LoginWorker::checkLoginQRCodeStatus, (Text requestId, Text code, const QRCodeStatusCallback &callback), (code),
-     host.qrCodeStatusQueries.append({requestId, callback}))
+     keep(host.qrCodeStatusQueries, FakeHost::QRCodeCall<LoginWorker::QRCodeStatusCallback>{requestId, callback}))
 DONE(LoginWorker::checkLoginQRCodeResult, (Text requestId, Text code, const ResponseCallback &callback), (code),
-     host.qrCodeResultQueries.append({requestId, callback}))
+     keep(host.qrCodeResultQueries, FakeHost::QRCodeCall<LoginWorker::ResponseCallback>{requestId, callback}))
 DONE(LoginWorker::tryAutoLogin, (Text requestId, Text account, const AccountCallback &callback), (account),
-     host.autoLogins.append({requestId, account, callback}))
+     keep(host.autoLogins, FakeHost::AutoLoginCall{requestId, account, callback}))
 DONE(LoginWorker::tryAutoLogin, (Text requestId, Text account, Text password, const AccountCallback &callback),
-     (account, password), host.autoLogins.append({requestId, account, callback}))
+     (account, password), keep(host.autoLogins, FakeHost::AutoLoginCall{requestId, account, callback}))
 ANSWERED(bool, LoginWorker::cancelAccountAutoLogin, (Text account), (account), true)
 UNRECORDED(QString, LoginWorker::getRecentlyLoggedInAccount(), host.recentAccount)
 

@@ -101,4 +101,5 @@ struct FakeHost
     // What would block
     QString chosenFile;
     std::function<void()> whileAlertIsOpen, whileFileDialogIsOpen, whileMessageBoxIsOpen;
+    std::function<void()> whileCloudIsAsked; // for an answer from within the call
 };
