@@ -5,6 +5,8 @@
 
 #include <QKeyEvent>
 
+#include <initializer_list>
+
 using kelvra_base::CapsLockToolTipHandler;
 using kelvra_data::UserAdmin;
 
@@ -26,7 +28,7 @@ NewPwdDlg::~NewPwdDlg() = default;
 
 void NewPwdDlg::connectFields()
 {
-    for (QLineEdit *field : {ui->userName, ui->newPwd, ui->confirmPwd}) {
+    for (QLineEdit *field : std::initializer_list<QLineEdit *>{ui->userName, ui->newPwd, ui->confirmPwd}) {
         connect(field, &QLineEdit::textEdited, this, &NewPwdDlg::forgetRefusal);
         if (field != ui->userName) {
             field->setContextMenuPolicy(Qt::NoContextMenu);
