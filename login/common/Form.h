@@ -5,8 +5,8 @@
 namespace kelvra_login {
 
 /**
- * A widget's designer form with the handlers that use it, which die first. The widget binds nothing to itself: it
- * loses its form before its children, and a child that dies with the focus still tells that it has lost it.
+ * A widget's designer form and the handlers that use it, which end just before it. The widget binds nothing to itself:
+ * its children outlive its form, and a child that dies with the focus still tells that it has lost it.
  */
 template <typename Designed>
 class Form : public Designed
