@@ -287,6 +287,41 @@ private slots:
         QCOMPARE(look(), scan + "|waitingLabel");
     }
 
+    void panelMayDieOfAnAnswerWithinTheCall()
+    {
+        openPanel();
+        poll();
+        connect(panel, &QRCodeLoginPanel::signalScanQRCodeLoginSuccess, this, [this] { delete window; });
+        host.whileCloudIsAsked = [] { answer("result"); };
+        answer("2004");
+        QVERIFY(!window);
+    }
+
+    void panelMayDieOfAnAnswerWhileItIsShown()
+    {
+        host.whileCloudIsAsked = [] { answer("!code"); };
+        host.whileAlertIsOpen = [this] { delete window; };
+        delete window;
+        window = new QRCodeLoginPanel(nullptr);
+        window->show();
+        QTRY_VERIFY(!window);
+    }
+
+    void pageMayDieOfALink()
+    {
+        connect(&LoginSignals::_instance(), &LoginSignals::signalSaasLoginEvent, page, [this] { delete window; });
+        click("QRCodeLogin");
+        QVERIFY(!window);
+    }
+
+    void longValidityDoesNotWrapRound()
+    {
+        openPanel();
+        answer("code", {"code", picture, 4294968}); // seconds: 704 ms beyond what 32 bits hold
+        QTest::qWait(900);
+        QCOMPARE(look(), scan);
+    }
+
     void pollsWhileVisible()
     {
         openPanel();

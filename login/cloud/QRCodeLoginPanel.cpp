@@ -14,8 +14,6 @@
 #include <QPushButton>
 #include <QTimer>
 
-#include <chrono>
-
 using kelvra_saas::LoginQRCodeInfo;
 using kelvra_saas::Response;
 using CloudWorker = kelvra_saas::LoginWorker;
@@ -24,6 +22,7 @@ namespace kelvra_login {
 
 namespace {
 
+constexpr int msPerSecond = 1000;
 constexpr int statusIntervalMs = 1000;
 constexpr int waitingSize = 128; // pixels
 constexpr int refreshSize = 64;  // pixels
@@ -143,7 +142,12 @@ void QRCodeLoginPanel::codeAnswered(const Response &response, const LoginQRCodeI
     waitingLabel->hide();
     if (response.code != kelvra_saas::successCode) {
         QRCodeInvalid(getCodeFailureTitle, tr("Get QR Code Failure"));
-        cloudAlert(tr("Get login QR code failure:%1"), response);
+        const auto alert = [response] { cloudAlert(tr("Get login QR code failure:%1"), response); };
+        // A widget must not die while it is being shown, and may under an alert.
+        if (beingShown)
+            ui->handlers.after(0, alert);
+        else
+            alert();
         return;
     }
     state = codeShown;
@@ -156,7 +160,7 @@ void QRCodeLoginPanel::codeAnswered(const Response &response, const LoginQRCodeI
                             .arg(QString(info.image).replace(QLatin1Char('"'), QLatin1String("&quot;")),
                                  QString::number(ui->QRCode->width()), QString::number(ui->QRCode->height())));
     // Never cancelled: it ends whatever code is then on show.
-    QTimer::singleShot(std::chrono::seconds(info.validitySeconds), this,
+    ui->handlers.after(qint64(info.validitySeconds) * msPerSecond,
                        [this] { QRCodeInvalid(invalidTitle, tr("QR Code Invalid")); });
 }
 
@@ -179,14 +183,20 @@ void QRCodeLoginPanel::slotCheckLoginStatusTimeout()
 
 void QRCodeLoginPanel::statusAnswered(const Response &response, int status)
 {
-    if (response.code != kelvra_saas::successCode) {
-        const QPointer<QRCodeLoginPanel> self(this);
+    const QPointer<QRCodeLoginPanel> self(this);
+    if (response.code == kelvra_saas::successCode) {
+        followStatus(status);
+    } else {
         QRCodeInvalid(statusFailureTitle, tr("Check Status Failure"));
         cloudAlert(tr("Check login QR code status failure:%1"), response);
-        if (self)
-            statusQueryInFlight = false;
-        return;
     }
+    if (self)
+        statusQueryInFlight = false;
+}
+
+// The panel may be gone when this returns.
+void QRCodeLoginPanel::followStatus(int status)
+{
     switch (status) {
     case CloudWorker::QRCodeScanned:
         setTitle(scannedTitle, tr("Scanned, confirming"));
@@ -209,7 +219,6 @@ void QRCodeLoginPanel::statusAnswered(const Response &response, int status)
     default: // waits to be scanned
         break;
     }
-    statusQueryInFlight = false;
 }
 
 void QRCodeLoginPanel::checkLoginQRCodeResult()
@@ -278,8 +287,15 @@ void QRCodeLoginPanel::showEvent(QShowEvent *event)
     if (state == codeShown && !qrCodeId.isEmpty())
         statusTimer->start(statusIntervalMs);
     else if (state == codeInvalid && mask->isHidden())
-        refreshQRCode();
+        fetchFirstCode();
     QWidget::showEvent(event);
+}
+
+void QRCodeLoginPanel::fetchFirstCode()
+{
+    beingShown = true;
+    refreshQRCode();
+    beingShown = false;
 }
 
 void QRCodeLoginPanel::hideEvent(QHideEvent *event)

@@ -87,13 +87,16 @@ private:
     void setTitle(int titleId, const QString &title);
     void setQRCodeMaskWtVisible(bool visible);
     void QRCodeInvalid(int titleId, const QString &title);
+    void fetchFirstCode();
     void codeAnswered(const kelvra_saas::Response &response, const kelvra_saas::LoginQRCodeInfo &info);
     void statusAnswered(const kelvra_saas::Response &response, int status);
+    void followStatus(int status);
     void checkLoginQRCodeResult();
 
     const std::unique_ptr<Form<Ui::QRCodeLoginPanel>> ui;
     QTimer *statusTimer;
     bool statusQueryInFlight = false;
+    bool beingShown = false;
     int state;
     QString qrCodeId;
     QMap<int, QString> titles; // title id -> translated title

@@ -96,6 +96,8 @@ void SaasPwdLoginWt::loginAnswered(const QString &account, const Response &respo
 
 bool SaasPwdLoginWt::eventFilter(QObject *watched, QEvent *event)
 {
+    // Whoever hears the hub may delete the page: nobody is left to take the release then.
+    const QPointer<QWidget> self(this);
     if (isLeftRelease(event)) {
         auto &hub = LoginSignals::_instance();
         if (watched == ui->verificationCodeLogin)
@@ -103,7 +105,7 @@ bool SaasPwdLoginWt::eventFilter(QObject *watched, QEvent *event)
         else if (watched == ui->QRCodeLogin)
             emit hub.signalSaasLoginEvent(SaasScanQRCodeLogin, {account()});
     }
-    return QWidget::eventFilter(watched, event);
+    return !self || QWidget::eventFilter(watched, event);
 }
 
 void SaasPwdLoginWt::keyPressEvent(QKeyEvent *event)

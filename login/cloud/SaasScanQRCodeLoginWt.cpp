@@ -60,6 +60,8 @@ void SaasScanQRCodeLoginWt::accountAnswered(const Response &response, const QStr
 
 bool SaasScanQRCodeLoginWt::eventFilter(QObject *watched, QEvent *event)
 {
+    // Whoever hears the hub may delete the page: nobody is left to take the release then.
+    const QPointer<QWidget> self(this);
     if (isLeftRelease(event)) {
         auto &hub = LoginSignals::_instance();
         if (watched == ui->verificationCodeLogin)
@@ -67,7 +69,7 @@ bool SaasScanQRCodeLoginWt::eventFilter(QObject *watched, QEvent *event)
         else if (watched == ui->passwordLogin)
             emit hub.signalSaasLoginEvent(SaasPwdLogin, {});
     }
-    return QWidget::eventFilter(watched, event);
+    return !self || QWidget::eventFilter(watched, event);
 }
 
 void SaasScanQRCodeLoginWt::changeEvent(QEvent *event)

@@ -59,25 +59,28 @@ void SaasVerificationCodeLoginWt::getVerificationCode()
     // It runs from here on, whatever the cloud answers.
     ui->getVerificationCodeBt->setText(tr("60S"));
     ui->getVerificationCodeBt->setEnabled(false);
-    SaasWorker::_instance().resetVerificationCodeRemainingSecs(resendSeconds);
-
     kelvra_saas::VerificationCodeReq request;
     request.requestId = newRequestId();
     request.account = ui->userWt->text();
-    kelvra_saas::LoginWorker::_instance().getVerificationCode(
-        request, answerTo(request.requestId, ui->handlers, [](const Response &response) {
-            switch (response.code) {
-            case kelvra_saas::successCode:
-                messageAlert(DictDef::InformationTitle, tr("Get verificaion code success, please check the "
-                                                           "verification code on your mobile phone"));
-                break;
-            case invalidNumberCode:
-                warningAlert(tr("Get verificaion code failed:invalid mobile number(%1)").arg(response.code));
-                break;
-            default:
-                warningAlert(tr("Get verificaion code failed:%1").arg(errorText(response)));
-            }
-        }));
+    const auto answer = answerTo(request.requestId, ui->handlers, &SaasVerificationCodeLoginWt::codeAnswered);
+    // The host tells everybody of the countdown: the page may be gone when this returns.
+    SaasWorker::_instance().resetVerificationCodeRemainingSecs(resendSeconds);
+    kelvra_saas::LoginWorker::_instance().getVerificationCode(request, answer);
+}
+
+void SaasVerificationCodeLoginWt::codeAnswered(const Response &response)
+{
+    switch (response.code) {
+    case kelvra_saas::successCode:
+        messageAlert(DictDef::InformationTitle, tr("Get verificaion code success, please check the verification code "
+                                                   "on your mobile phone"));
+        break;
+    case invalidNumberCode:
+        warningAlert(tr("Get verificaion code failed:invalid mobile number(%1)").arg(response.code));
+        break;
+    default:
+        warningAlert(tr("Get verificaion code failed:%1").arg(errorText(response)));
+    }
 }
 
 void SaasVerificationCodeLoginWt::showCountdown(int seconds)
@@ -134,6 +137,8 @@ void SaasVerificationCodeLoginWt::loginAnswered(const QString &account, const Re
 
 bool SaasVerificationCodeLoginWt::eventFilter(QObject *watched, QEvent *event)
 {
+    // Whoever hears the hub may delete the page: nobody is left to take the release then.
+    const QPointer<QWidget> self(this);
     if (isLeftRelease(event)) {
         auto &hub = LoginSignals::_instance();
         if (watched == ui->passwordLogin)
@@ -141,7 +146,7 @@ bool SaasVerificationCodeLoginWt::eventFilter(QObject *watched, QEvent *event)
         else if (watched == ui->QRCodeLogin)
             emit hub.signalSaasLoginEvent(SaasScanQRCodeLogin, {ui->userWt->text()});
     }
-    return QWidget::eventFilter(watched, event);
+    return !self || QWidget::eventFilter(watched, event);
 }
 
 void SaasVerificationCodeLoginWt::keyPressEvent(QKeyEvent *event)

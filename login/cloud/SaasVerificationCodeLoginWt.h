@@ -33,6 +33,7 @@ protected:
 
 private:
     void getVerificationCode();
+    static void codeAnswered(const kelvra_saas::Response &response);
     void showCountdown(int seconds);
     void login();
     void loginAnswered(const QString &account, const kelvra_saas::Response &response,

@@ -3,11 +3,13 @@
 #include <QObject>
 #include <QTimer>
 
+#include <limits>
+
 namespace kelvra_login {
 
 /**
  * The context of what is to happen on signals, after delays and on answers: nothing of it happens once this object
- * is gone. Whoever binds a handler to it owns it and what the handler uses.
+ * is gone. Whoever owns it owns what the handlers use.
  */
 class Handlers : public QObject
 {
@@ -25,11 +27,15 @@ public:
         QObject::connect(sender, signal, this, handler);
     }
 
-    /** Calls `handler` once. */
+    /** Calls `handler` once, after a delay of any length: what a timer cannot take in one go, it takes in several. */
     template <typename Handler>
-    void after(int milliseconds, const Handler &handler)
+    void after(qint64 milliseconds, const Handler &handler)
     {
-        QTimer::singleShot(milliseconds, this, handler);
+        constexpr int longest = std::numeric_limits<int>::max();
+        if (milliseconds <= longest)
+            QTimer::singleShot(static_cast<int>(milliseconds), this, handler);
+        else
+            QTimer::singleShot(longest, this, [=] { after(milliseconds - longest, handler); });
     }
 };
 
