@@ -28,8 +28,10 @@ void FieldTip::show(QWidget *field, const QString &text)
 
 void FieldTip::showTip()
 {
-    // The rectangle leaves out the corner: else the toolkit takes no notice while the same tip is about to go.
-    QToolTip::showText(field->mapToGlobal(QPoint(0, 0)), text, field, field->rect().adjusted(1, 1, 0, 0));
+    // The corner is outside the rectangle: else the toolkit takes no notice while the same tip is about to go. The
+    // tip itself is inside: else the toolkit hides it when the pointer moves over it.
+    const QRect nearby(1, 1, QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    QToolTip::showText(field->mapToGlobal(QPoint(0, 0)), text, field, nearby);
 }
 
 bool FieldTip::isOnScreen() const

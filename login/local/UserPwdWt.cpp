@@ -88,7 +88,7 @@ void UserPwdWt::setPassword(const QString &text, bool remembered)
         ui->pwd->clear();
         eye->setVisible(true);
     } else if (remembered) {
-        // An open eye would show the placeholders as boxes.
+        // An open eye would show the placeholders as blanks.
         eye->setChecked(false);
         ui->pwd->setEchoMode(QLineEdit::Password);
         updateEyeIcon(styleSheet() == frameHighlightedStyle);
