@@ -156,7 +156,7 @@ private slots:
         newPage();
         // What the whole click or key did, and the tips it left at the name and at the password.
         const auto pressed = [this](const QString &by, const QString &name, const QString &password) {
-            QTest::mousePress(window, Qt::RightButton); // takes the last tip away
+            QTest::mouseClick(window, Qt::RightButton); // takes the last tip away
             const QString done = submit(by, name, password);
             return done + tipAt(nameEdit()) + '|' + tipAt(pwdEdit());
         };
