@@ -140,8 +140,10 @@ void SingleInstance::greetWaiting()
 {
     while (QLocalSocket *socket = server->nextPendingConnection()) {
         connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
+        // Queued: on Windows a socket that closes while it reports a write deletes what reports it, which then goes on.
+        // To disconnect before the answer is written comes to the same.
+        connect(socket, &QLocalSocket::bytesWritten, socket, &QLocalSocket::disconnectFromServer, Qt::QueuedConnection);
         socket->putChar(answer);
-        socket->disconnectFromServer(); // after the answer has been written
     }
     emit signalRepeatedStart();
 }
