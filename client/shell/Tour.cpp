@@ -14,14 +14,17 @@ namespace kelvra_client {
 namespace {
 
 constexpr int exitFailed = 1;
-constexpr int stageTimeoutMs = 45000;
+constexpr int silentTimeoutMs = 90000; // more than a step may take: a program that is slow goes on reporting
+constexpr int endTimeoutMs = 10000;    // of a program that has closed its output
 const QString endedWell = QStringLiteral("ended with exit status 0");
 
 QString failureOf(QProcess &program)
 {
     if (!program.waitForStarted())
         return QStringLiteral("cannot be started");
-    if (!program.waitForFinished(stageTimeoutMs)) {
+    while (program.waitForReadyRead(silentTimeoutMs)) {
+    }
+    if (program.state() != QProcess::NotRunning && !program.waitForFinished(endTimeoutMs)) {
         program.kill();
         program.waitForFinished();
         return QStringLiteral("hung and was stopped");

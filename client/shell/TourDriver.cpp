@@ -20,8 +20,8 @@ namespace {
 
 constexpr int decimal = 10;
 constexpr int tickMs = 10;
-constexpr int settledMs = 30; // a window that has just come is not active in its first moments
-constexpr int deadlineMs = 10000;
+constexpr int settledMs = 30;     // before an act: a window that has just come is not active in its first moments
+constexpr int deadlineMs = 60000; // passed by what is wrong, and not by what is slow
 constexpr int deadlineAfterFailureMs = 1000; // what follows a failure may be out of reach
 const QString secondStartName = QStringLiteral("second start");
 
@@ -107,10 +107,17 @@ void TourDriver::tick()
         sinceRight.invalidate();
     else if (!sinceRight.isValid())
         sinceRight.start();
-    if (right && sinceRight.elapsed() >= qMax(step.holdsMs, settledMs))
+    if (right && sinceRight.elapsed() >= holdTime())
         finish(step, seen, true);
     else if (sinceAct.hasExpired(failed ? deadlineAfterFailureMs : deadlineMs))
         finish(step, seen, false);
+}
+
+// What is only looked at may be gone after the next turn.
+int TourDriver::holdTime() const
+{
+    const bool actsNext = current + 1 < steps.size() && !steps.at(current + 1).acts.isEmpty();
+    return qMax(steps.at(current).holdsMs, actsNext ? settledMs : 0);
 }
 
 void TourDriver::finish(const TourStep &step, const QString &seen, bool ok)
@@ -125,6 +132,8 @@ void TourDriver::finish(const TourStep &step, const QString &seen, bool ok)
     before = seen;
     ++current;
     nextAct = 0;
+    sinceAct.start();
+    sinceRight.invalidate();
     std::printf("%s %s %s\n", qUtf8Printable(reportMark), ok && kept ? "ok" : "no",
                 qUtf8Printable(kept ? seen : seen + QStringLiteral(" (the picture cannot be written)")));
     std::fflush(stdout);

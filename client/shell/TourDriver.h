@@ -40,6 +40,8 @@ private:
     TourDriver(const QString &pictureFolder, int stage, const QString &seenBefore);
 
     void tick();
+    /** For how long the check of the current step must hold, in ms. */
+    int holdTime() const;
     void finish(const TourStep &step, const QString &seen, bool ok);
     QString describe(const QString &look) const;
 
@@ -48,7 +50,7 @@ private:
     TourInput hands;
     QProcess *secondStart = nullptr;
     QString before;
-    QElapsedTimer sinceAct;
+    QElapsedTimer sinceAct;   ///< of this step, or its beginning
     QElapsedTimer sinceRight; ///< invalid while the check does not hold
     int current = 0;
     int nextAct = 0;

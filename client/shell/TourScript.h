@@ -9,7 +9,7 @@ namespace kelvra_client {
 
 class TourDriver;
 
-/** One thing the tour does, and what must be seen of it within a few seconds. */
+/** One thing the tour does, and what must be seen of it within a minute. */
 struct TourStep
 {
     using Act = std::function<void(TourDriver &driver)>;
