@@ -4,30 +4,15 @@
 set -eu
 here=$(CDPATH="" cd -- "$(dirname -- "$0")" && pwd)
 . "$here/../setup.sh"
+. "$here/prefix.sh"
 
 folder=$1
 pictures=$2
 mkdir -p "$pictures"
-WINEPREFIX=$folder/wine
-export WINEPREFIX
-export WINEDEBUG=-all WINEDLLOVERRIDES=mscoree,mshtml=
 trap 'wineserver -k || true' EXIT
 trap 'exit 130' INT TERM
 
-if [ ! -e "$WINEPREFIX/ready" ]; then
-    say "Setting up Wine"
-    rm -rf "$WINEPREFIX"
-    timeout 300 wineboot --init >/dev/null 2>&1
-    # There is no window manager: Wine's own desktop gives windows the focus.
-    timeout 60 wine reg add 'HKCU\Software\Wine\Explorer' /v Desktop /d kelvra /f >/dev/null
-    timeout 60 wine reg add 'HKCU\Software\Wine\Explorer\Desktops' /v kelvra /d 1920x1200 /f >/dev/null
-    # A crash ends the program instead of asking what to do.
-    timeout 60 wine reg add 'HKCU\Software\Wine\WineDbg' /v ShowCrashDialog /t REG_DWORD /d 0 /f >/dev/null
-    # The font that the interface asks for is one of Windows'.
-    timeout 60 wine reg add 'HKCU\Software\Wine\Fonts\Replacements' /v 'Microsoft YaHei' /d 'WenQuanYi Micro Hei' /f \
-        >/dev/null
-    touch "$WINEPREFIX/ready"
-fi
+set_up_wine "$folder/wine"
 # The pointer would lie on the windows of some tests.
 xdotool mousemove 1919 1199
 
@@ -57,16 +42,16 @@ for name in $(ctest --test-dir "$folder" -N | sed -n 's/^ *Test *#[0-9]*: //p');
     [ $verdict = ok ] || tr -d '\r' <"$log" | grep -E -A 3 '^[0-9]*: (FAIL!|XPASS|QFATAL)|Timeout|Exception' | head -n 40 || true
 done
 say "$((total - failed)) of $total test programs passed under Wine"
+[ $total -gt 0 ] || failed=1
 
 say "Taking the client's tour"
-tour=$pictures/tour
-rm -rf "$tour"
-timeout 600 "$here/wine.sh" "$folder/bin/kelvra_client.exe" --tour "$tour" 2>"$logs/tour.log" | tr -d '\r' | tail -n 1
-[ ! -f "$tour/tour.txt" ] || grep -v '| ok' "$tour/tour.txt" || true
+take_tour "$folder/bin/kelvra_client.exe" "$pictures/tour" "$logs/tour.log" || failed=$((failed + 1))
 
 # What is on the screen, rather than what a window would draw: until it stands still.
 say "Taking a picture of the screen"
 data=$(mktemp -d)
+shown=no
+rm -f "$pictures/login.png"
 "$here/wine.sh" "$folder/bin/kelvra_client.exe" --data-dir "$data" --no-phone >/dev/null 2>&1 &
 before=
 for _ in 1 2 3 4 5 6 7 8 9 10 11 12 13 14 15; do
@@ -74,11 +59,20 @@ for _ in 1 2 3 4 5 6 7 8 9 10 11 12 13 14 15; do
     import -window root "$pictures/screen.png"
     now=$(identify -format '%# %k' "$pictures/screen.png")
     if [ "$now" = "$before" ] && [ "${now#* }" -gt 200 ]; then
+        shown=yes
         break
     fi
     before=$now
 done
-convert "$pictures/screen.png" -trim +repage "$pictures/login.png"
-say "The login dialog as Windows draws it: $pictures/login.png"
 rm -rf "$data"
-[ $failed -eq 0 ]
+if [ $shown = yes ]; then
+    convert "$pictures/screen.png" -trim +repage "$pictures/login.png"
+    say "The login dialog as Windows draws it: $pictures/login.png"
+else
+    say "No login dialog stood still on the screen: $pictures/screen.png"
+    failed=$((failed + 1))
+fi
+[ $failed -eq 0 ] || {
+    say "$failed of what was tried out failed; it is named above"
+    exit 1
+}
