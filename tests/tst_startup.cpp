@@ -4,6 +4,8 @@
 #include "host/kelvra_data/UserData.h"
 #include "tests/DataFolderTest.h"
 
+#include <QCryptographicHash>
+#include <QLocalSocket>
 #include <QProcess>
 
 using kelvra_client::SingleInstance;
@@ -188,6 +190,29 @@ private slots:
         first.reset();
         QTRY_VERIFY2(QFile::exists(dir->filePath("third/customize.ini")), heir.readAllStandardError().constData());
         QVERIFY(!heir.hasEnded());
+    }
+
+    void secondStartsThatDoNotListenHarmNobody()
+    {
+#ifndef Q_OS_WIN
+        QSKIP("Only on Windows does a write wait for who reads it.");
+#endif
+        QString error;
+        SingleInstance first(at());
+        QCOMPARE(first.claim(&error), SingleInstance::First);
+        first.answerRepeatedStarts();
+        QSignalSpy spy(&first, &SingleInstance::signalRepeatedStart);
+        const QByteArray key = QFile::encodeName(QFileInfo(at()).canonicalFilePath()) + '\0' + qgetenv("USERNAME");
+        const QByteArray hash = QCryptographicHash::hash(key, QCryptographicHash::Sha256).toHex();
+        for (int start = 1; start <= 20; ++start) {
+            QLocalSocket deaf;
+            deaf.connectToServer("kelvra_client-" + QString::fromLatin1(hash.left(32)), QIODevice::WriteOnly);
+            QVERIFY2(deaf.waitForConnected(), qPrintable(deaf.errorString()));
+            QTRY_COMPARE(spy.count(), start);
+        }
+        Client second(onFolder());
+        QTRY_VERIFY(second.hasEnded());
+        QCOMPARE(second.end(), QString("0 "));
     }
 
     void startsAtOnceLeaveOneClient()
