@@ -138,7 +138,7 @@ private slots:
             {"customize.ini is damaged", [&] { return write("customize.ini", junk); }},
             {"recovery/replace_superuser in",
              [&] { return write("customize.ini", "[recovery]\nreplace_superuser=\n"); }},
-            {"customize.ini cannot be read\\.", [&] { return QDir(at()).mkdir("customize.ini"); }},
+            {"customize.ini is not a file", [&] { return QDir(at()).mkdir("customize.ini"); }},
             {"settings.ini is damaged", [&] { return write("settings.ini", "[General\nlanguage=0\n"); }},
             {"client_login_mode in", [&] { return write("settings.ini", "[General]\nclient_login_mode=gesture\n"); }},
             {"cannot be written to\\.", [&] { return allow(QFile::ReadOwner); }},
@@ -156,6 +156,35 @@ private slots:
             QCOMPARE(contents(dir->path()), before);
             cleanup();
         }
+    }
+
+    void startReadsOrdinaryFilesOnly_data()
+    {
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<QString>("kind");
+        for (const char *file :
+             {"settings.ini", "customize.ini", "loading.png", "cloud_accounts.ini", "cloud_service.json",
+              "cloud_client.json", "kelvra.key", "kelvra.lock", "kelvra.db", "kelvra.db-wal", "kelvra.db-journal"}) {
+            for (const char *kind : {"pipe", "device", "folder"})
+                QTest::addRow("%s is a %s", file, kind) << file << kind;
+        }
+        for (const char *file : {"settings.ini", "cloud_accounts.ini", "cloud_client.json", "kelvra.lock"})
+            QTest::addRow("%s is too large", file) << file << "large file";
+    }
+
+    void startReadsOrdinaryFilesOnly()
+    {
+        QFETCH(QString, file);
+        QFETCH(QString, kind);
+        if (isWindows && (kind == "pipe" || kind == "device"))
+            QSKIP("There are none in a folder here.");
+        writeFile(at("customize.ini"), "[loading]\ncustom_image=true\nimage=loading.png\n");
+        QFile::remove(at(file));
+        QVERIFY(putInPlaceOf(file, kind));
+        const QString said = kind == "large file" ? QString("The file %1 has more than ") : QString("%1 is not a file");
+        const QString end = Client(onFolder()).end();
+        QVERIFY2(end.startsWith("1 kelvra_client: " + said.arg(QDir::toNativeSeparators(at(file)))), qPrintable(end));
+        QCOMPARE(end.count('\n'), 1);
     }
 
     void secondStartIsAnsweredByTheFirst()
@@ -261,6 +290,18 @@ private slots:
     }
 
 private:
+    bool putInPlaceOf(const QString &file, const QString &kind) const
+    {
+        if (kind == "folder")
+            return QDir().mkdir(at(file));
+        if (kind == "large file")
+            return QFile(at(file)).open(QFile::WriteOnly) && QFile::resize(at(file), 32 * 1024 * 1024);
+        if (kind == "pipe")
+            return QProcess::execute("mkfifo", {at(file)}) == 0;
+        // A link to a link: whoever puts a file in the place of its target leaves the device alone.
+        return QFile::link("/dev/zero", at("endless")) && QFile::link(at("endless"), at(file));
+    }
+
     QStringList onFolder(QStringList options = QStringList()) const
     {
         return options << "--data-dir" << at();

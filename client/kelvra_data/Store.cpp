@@ -1,5 +1,6 @@
 #include "client/kelvra_data/Store.h"
 
+#include "client/files/OrdinaryFile.h"
 #include "client/kelvra_data/OwnerFolder.h"
 #include "client/kelvra_data/Schema.h"
 #include "client/kelvra_data/Transaction.h"
@@ -9,6 +10,8 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSqlError>
+
+using kelvra_files::OrdinaryFile;
 
 ZSINGLETON_DEFINE(kelvra_data::Store)
 
@@ -25,11 +28,24 @@ constexpr QFile::Permissions ownerFile = QFile::ReadOwner | QFile::WriteOwner;
 const QString connectionName = QStringLiteral("kelvra_data");
 const QString databaseFile = QStringLiteral("kelvra.db");
 const QString keyFile = QStringLiteral("kelvra.key");
+// What SQLite opens beside the database when it is there.
+const QStringList databaseCompanions = {QStringLiteral("-wal"), QStringLiteral("-shm"), QStringLiteral("-journal")};
 const QString busyTimeout = QStringLiteral("QSQLITE_BUSY_TIMEOUT=3000"); // milliseconds
 
 // The value that tells whether the key file belongs to the database.
 const QByteArray keyCheckPlace = QByteArrayLiteral("state.key_check");
 const QString keyCheckText = QStringLiteral("kelvra");
+
+/** Empty, or what may not be opened of the database and its companions. */
+QString unfitFile(const QString &database)
+{
+    QString problem = OrdinaryFile::problem(database, OrdinaryFile::anySize);
+    for (const QString &companion : databaseCompanions) {
+        if (problem.isEmpty())
+            problem = OrdinaryFile::problem(database + companion, OrdinaryFile::anySize);
+    }
+    return problem;
+}
 
 bool isDamage(const QSqlError &error)
 {
@@ -103,6 +119,9 @@ QString Store::openFiles(const QString &folder, bool *created)
 
     // Made here rather than by SQLite: the files that SQLite puts beside it get its permissions.
     const QString path = QDir(folder).filePath(databaseFile);
+    QString problem = unfitFile(path);
+    if (!problem.isEmpty())
+        return problem;
     QFile file(path);
     *created = !file.exists() && file.open(QIODevice::WriteOnly | QIODevice::NewOnly) && file.setPermissions(ownerFile);
     file.close();
@@ -111,7 +130,7 @@ QString Store::openFiles(const QString &folder, bool *created)
         return tr("The data folder %1 cannot be written to.").arg(QDir::toNativeSeparators(folder));
 
     int version = 0;
-    QString problem = connectTo(path);
+    problem = connectTo(path);
     if (problem.isEmpty())
         problem = inspect(&version);
     if (problem.isEmpty())
@@ -165,6 +184,9 @@ QString Store::unlock(const QString &file, bool mayCreate) const
         if (!Vault::createKeyFile(file) && !QFileInfo::exists(file))
             return tr("The key file %1 cannot be written.").arg(path);
     }
+    const QString problem = OrdinaryFile::problem(file, OrdinaryFile::anySize);
+    if (!problem.isEmpty())
+        return problem;
     if (QFileInfo(file).size() != Vault::keyFileBytes)
         return tr("The key file %1 is damaged: it does not have %2 bytes.").arg(path).arg(Vault::keyFileBytes);
     return keys->unlock(file) ? QString() : tr("The key file %1 cannot be read.").arg(path);

@@ -1,5 +1,7 @@
 #include "client/kelvra_data/Vault.h"
 
+#include "client/files/OrdinaryFile.h"
+
 #include <QFile>
 #include <QSaveFile>
 
@@ -88,6 +90,7 @@ bool Vault::createKeyFile(const QString &path)
 {
     // Made under another name and then renamed, which never replaces: no start ever sees half a key.
     const QString unfinished = path + QStringLiteral(".new");
+    QFile::remove(unfinished); // what a killed start has left, or a link: it would be written to where it leads
     QByteArray key = randomBytes(keyFileBytes);
     QSaveFile file(unfinished);
     // Flushed first: commit() takes no notice of what does not fit on the disk any more.
@@ -124,7 +127,9 @@ bool Vault::unlock(const QString &path)
     lock();
     QFile file(path);
     // Unbuffered: no copy of the key stays in a buffer of the file's.
-    if (!sodiumReady() || !file.open(QIODevice::ReadOnly | QIODevice::Unbuffered) || file.size() != keyFileBytes)
+    constexpr QIODevice::OpenMode mode = QIODevice::ReadOnly | QIODevice::Unbuffered;
+    if (!sodiumReady() || !kelvra_files::OrdinaryFile::open(&file, keyFileBytes, mode).isEmpty() ||
+        file.size() != keyFileBytes)
         return false;
     auto *master = static_cast<unsigned char *>(sodium_malloc(crypto_kdf_KEYBYTES));
     keys = static_cast<Keys *>(sodium_malloc(sizeof(Keys)));

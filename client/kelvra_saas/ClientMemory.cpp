@@ -18,6 +18,8 @@ QString placed(const QString &account, const QString &token = {})
 
 } // namespace
 
+const QString ClientMemory::fileName = QStringLiteral("cloud_client.json");
+
 ClientMemory::ClientMemory(const QString &filePath)
     : file(filePath)
 {

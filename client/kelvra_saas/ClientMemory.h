@@ -11,6 +11,8 @@ namespace kelvra_saas {
 class ClientMemory
 {
 public:
+    static const QString fileName;
+
     /** An empty path: in memory only. */
     explicit ClientMemory(const QString &filePath);
 

@@ -7,12 +7,6 @@
 
 namespace kelvra_saas {
 
-namespace {
-
-const QString memoryFile = QStringLiteral("cloud_client.json");
-
-} // namespace
-
 CloudLink &CloudLink::current()
 {
     static CloudLink link;
@@ -41,7 +35,8 @@ void CloudLink::answerLater(const CloudAnswer &answer, const CloudService::Callb
 ClientMemory &CloudLink::memory()
 {
     if (!clientMemory) {
-        clientMemory = std::make_unique<ClientMemory>(folder.isEmpty() ? QString() : QDir(folder).filePath(memoryFile));
+        clientMemory = std::make_unique<ClientMemory>(folder.isEmpty() ? QString()
+                                                                       : QDir(folder).filePath(ClientMemory::fileName));
         clientMemory->setSealing(seal, open);
     }
     return *clientMemory;

@@ -1,30 +1,42 @@
 #include "client/kelvra_saas/JsonFile.h"
 
+#include "client/files/OrdinaryFile.h"
+
 #include <QDir>
 #include <QFile>
 #include <QJsonDocument>
 #include <QSaveFile>
 
+using kelvra_files::OrdinaryFile;
+
 namespace kelvra_saas {
 
 namespace {
 
+constexpr qint64 maxFileBytes = 16 * 1024 * 1024;
 const QString damagedSuffix = QStringLiteral(".damaged");
 
 } // namespace
 
+QString JsonFile::problem() const
+{
+    return OrdinaryFile::problem(path, maxFileBytes);
+}
+
 QJsonObject JsonFile::read() const
 {
-    QFile file(path);
-    if (path.isEmpty() || !file.exists())
+    if (path.isEmpty() || !QFile::exists(path))
         return {};
-    QJsonDocument document;
-    if (file.open(QIODevice::ReadOnly))
-        document = QJsonDocument::fromJson(file.readAll());
-    file.close();
+    QString error;
+    const std::optional<QByteArray> data = OrdinaryFile::read(path, &error, maxFileBytes);
+    if (!data) {
+        qWarning("%s", qUtf8Printable(error));
+        return {};
+    }
+    const QJsonDocument document = QJsonDocument::fromJson(*data);
     if (!document.isObject()) {
         QFile::remove(path + damagedSuffix);
-        file.rename(path + damagedSuffix);
+        QFile::rename(path, path + damagedSuffix);
         qWarning("%s is damaged; it has been set aside.", qUtf8Printable(QDir::toNativeSeparators(path)));
     }
     return document.object();
@@ -37,7 +49,7 @@ bool JsonFile::write(const QJsonObject &object) const
     const QByteArray data = QJsonDocument(object).toJson();
     QSaveFile file(path);
     // Flushed first: commit() takes no notice of what does not fit on the disk any more.
-    const bool written = file.open(QIODevice::WriteOnly) &&
+    const bool written = problem().isEmpty() && file.open(QIODevice::WriteOnly) &&
                          file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner) &&
                          file.write(data) == data.size() && file.flush() && file.commit();
     if (!written)

@@ -15,7 +15,13 @@ public:
     {
     }
 
-    /** Empty when there is no file. One that is no JSON object is set aside under another name, not lost. */
+    /** Empty, or a sentence for the user: what is there is no file of a sensible size that can be read. */
+    QString problem() const;
+
+    /**
+     * Empty when there is no file, or problem() has something to say. One that is no JSON object is set aside under
+     * another name, not lost.
+     */
     QJsonObject read() const;
 
     /** Complete or not at all; false when it could not be written. */

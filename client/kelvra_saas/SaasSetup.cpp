@@ -1,8 +1,25 @@
 #include "client/kelvra_saas/SaasSetup.h"
 
+#include "client/files/OrdinaryFile.h"
+#include "client/kelvra_saas/AccountsFile.h"
 #include "client/kelvra_saas/CloudLink.h"
+#include "client/kelvra_saas/ServiceRecords.h"
+
+#include <QDir>
 
 namespace kelvra_saas {
+
+QString SaasSetup::unfitFile(const QString &folder)
+{
+    const auto in = [dir = QDir(folder)](const QString &name) { return dir.filePath(name); };
+    for (const QString &problem :
+         {kelvra_files::OrdinaryFile::problem(in(AccountsFile::fileName)),
+          JsonFile(in(ServiceRecords::fileName)).problem(), JsonFile(in(ClientMemory::fileName)).problem()}) {
+        if (!problem.isEmpty())
+            return problem;
+    }
+    return {};
+}
 
 void SaasSetup::setDataFolder(const QString &folder)
 {

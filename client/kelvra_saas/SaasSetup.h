@@ -13,6 +13,7 @@ namespace kelvra_saas {
 /**
  * What the shell tells the cloud library, in this order, before a call to the cloud is made:
  *
+ *     const QString problem = SaasSetup::unfitFile(folder);
  *     SaasSetup::setSealing(seal, open);     // once the store with its key is open
  *     SaasSetup::setDataFolder(folder);
  *     ... the login, the phone window on SaasSetup::simulation() ...
@@ -27,6 +28,12 @@ public:
     using Open = std::function<bool(const QByteArray &, QString *)>; ///< false when it was not sealed here
 
     SaasSetup() = delete;
+
+    /**
+     * Empty, or a sentence for the user about what stands in `folder` in the place of one of the library's files but
+     * cannot be read as a file. Asked before anything is written: the library goes on without such a file.
+     */
+    static QString unfitFile(const QString &folder);
 
     /**
      * Sets the folder of "cloud_client.json" (this computer's side: terminal id, the account that logged in last,

@@ -44,6 +44,8 @@ QJsonObject toObject(const ServiceRecord &record)
 
 } // namespace
 
+const QString ServiceRecords::fileName = QStringLiteral("cloud_service.json");
+
 ServiceRecords::ServiceRecords(const QString &filePath)
     : file(filePath)
 {

@@ -20,6 +20,8 @@ struct ServiceRecord
 class ServiceRecords
 {
 public:
+    static const QString fileName;
+
     /** An empty path: in memory only. */
     explicit ServiceRecords(const QString &filePath);
 

@@ -1,13 +1,18 @@
 #include "client/kelvra_worker/CustomizeFile.h"
 
+#include "client/files/OrdinaryFile.h"
 #include "client/kelvra_worker/IniFile.h"
 
 #include <QFileInfo>
 #include <QSaveFile>
 
+using kelvra_files::OrdinaryFile;
+
 namespace kelvra_worker {
 
 namespace {
+
+constexpr qint64 maxImageBytes = 64 * 1024 * 1024;
 
 const QString cloudLoginKey = QStringLiteral("login/cloud_login");
 const QString customImageKey = QStringLiteral("loading/custom_image");
@@ -28,7 +33,7 @@ cloud_login=true
 custom_image=false
 ; That image, 860 x 500 pixels. Write / between folders, and put the path in quotes ("...") if it holds a comma or
 ; a semicolon. A path that does not begin at a root is looked up beside this file. If the file does not exist, the
-; built-in image is shown. Default: empty
+; built-in image is shown; a folder or a file of more than 64 MiB stops the start. Default: empty
 image=
 
 [recovery]
@@ -61,9 +66,14 @@ bool CustomizeFile::read(QString *error)
     record.customLoadingImageEnabled = file.flag(customImageKey, defaults.customLoadingImageEnabled);
     record.loadingImagePath = file.path(imageKey, defaults.loadingImagePath);
     superUserReplaceable = file.flag(replaceSuperUserKey, false);
+    const QString imageProblem =
+        record.customLoadingImageEnabled ? OrdinaryFile::problem(record.loadingImagePath, maxImageBytes) : QString();
+    if (!imageProblem.isEmpty())
+        record.customLoadingImageEnabled = defaults.customLoadingImageEnabled;
+    const QString problem = file.problem().isEmpty() ? imageProblem : file.problem();
     if (error)
-        *error = file.problem();
-    return file.problem().isEmpty();
+        *error = problem;
+    return problem.isEmpty();
 }
 
 bool CustomizeFile::createIfMissing() const

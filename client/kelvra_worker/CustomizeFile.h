@@ -15,8 +15,8 @@ public:
 
     /**
      * Reads the file; one that does not exist stands for the defaults, and nothing is ever written. When the file is
-     * damaged or a value in it makes no sense, answers false with a sentence for the user in `error`; what could not
-     * be read then has its default.
+     * damaged, a value in it makes no sense, or the image to be shown is there but no file that can be read, answers
+     * false with a sentence for the user in `error`; what could not be read then has its default.
      */
     bool read(QString *error = nullptr);
 

@@ -1,20 +1,18 @@
 #include "client/kelvra_worker/IniFile.h"
 
+#include "client/files/OrdinaryFile.h"
+
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QTextCodec>
 
 #include <algorithm>
 
+using kelvra_files::OrdinaryFile;
+
 namespace kelvra_worker {
 
 namespace {
-
-QString shown(const QSettings &file)
-{
-    return QDir::toNativeSeparators(file.fileName());
-}
 
 bool isText(const QByteArray &data)
 {
@@ -59,32 +57,36 @@ bool isIni(const QByteArray &data)
 
 } // namespace
 
+// QSettings opens the file once more, by its name: only when it has been found to be one.
 IniFile::IniFile(const QString &filePath)
-    : file(filePath, QSettings::IniFormat)
+    : iniPath(filePath)
 {
-    file.setIniCodec("UTF-8");
     if (!QFileInfo::exists(filePath))
         return;
-    QFile raw(filePath);
-    usable = false;
-    if (!raw.open(QIODevice::ReadOnly))
-        noteProblem(tr("The file %1 cannot be read.").arg(shown(file)));
-    else if (!isIni(raw.readAll()) || file.status() != QSettings::NoError)
-        noteProblem(tr("The file %1 is damaged; correct it or delete it.").arg(shown(file)));
-    else
-        usable = true;
+    QString unreadable;
+    const std::optional<QByteArray> data = OrdinaryFile::read(filePath, &unreadable);
+    if (!data) {
+        noteProblem(unreadable);
+        return;
+    }
+    file.emplace(filePath, QSettings::IniFormat);
+    file->setIniCodec("UTF-8");
+    if (!isIni(*data) || file->status() != QSettings::NoError) {
+        file.reset();
+        noteProblem(tr("The file %1 is damaged; correct it or delete it.").arg(QDir::toNativeSeparators(filePath)));
+    }
 }
 
 bool IniFile::holds(const QString &key) const
 {
-    return usable && file.contains(key);
+    return file && file->contains(key);
 }
 
 bool IniFile::flag(const QString &key, bool byDefault)
 {
     if (!holds(key))
         return byDefault;
-    const QString text = file.value(key).toString().trimmed().toLower();
+    const QString text = file->value(key).toString().trimmed().toLower();
     if (text == QLatin1String("true") || text == QLatin1String("1"))
         return true;
     if (text == QLatin1String("false") || text == QLatin1String("0"))
@@ -98,7 +100,7 @@ int IniFile::number(const QString &key, int byDefault)
     if (!holds(key))
         return byDefault;
     bool isNumber = false;
-    const int value = file.value(key).toString().toInt(&isNumber);
+    const int value = file->value(key).toString().toInt(&isNumber);
     if (!isNumber)
         noteBadValue(key);
     return isNumber ? value : byDefault;
@@ -108,14 +110,14 @@ QString IniFile::path(const QString &key, const QString &byDefault)
 {
     if (!holds(key))
         return byDefault;
-    const QVariant value = file.value(key);
+    const QVariant value = file->value(key);
     // An unquoted comma makes a list of it.
     if (value.type() != QVariant::String) {
         noteBadValue(key);
         return byDefault;
     }
     const QString text = value.toString();
-    return text.isEmpty() ? text : QFileInfo(file.fileName()).dir().absoluteFilePath(text);
+    return text.isEmpty() ? text : QFileInfo(iniPath).dir().absoluteFilePath(text);
 }
 
 void IniFile::noteProblem(const QString &sentence)
@@ -126,7 +128,8 @@ void IniFile::noteProblem(const QString &sentence)
 
 void IniFile::noteBadValue(const QString &key)
 {
-    noteProblem(tr("The value of %1 in the file %2 makes no sense; correct it or delete it.").arg(key, shown(file)));
+    noteProblem(tr("The value of %1 in the file %2 makes no sense; correct it or delete it.")
+                    .arg(key, QDir::toNativeSeparators(iniPath)));
 }
 
 } // namespace kelvra_worker

@@ -4,6 +4,8 @@
 #include <QSettings>
 #include <QString>
 
+#include <optional>
+
 namespace kelvra_worker {
 
 /** An INI file that a person may have edited. It is only read, and keeps in mind what is wrong in it. */
@@ -30,8 +32,8 @@ private:
     void noteProblem(const QString &sentence);
     void noteBadValue(const QString &key);
 
-    QSettings file;
-    bool usable = true;
+    QString iniPath;
+    std::optional<QSettings> file; ///< while it can be used
     QString firstProblem;
 };
 

@@ -1,11 +1,13 @@
 #include "host/kelvra_worker/UiSettings.h"
 
+#include "client/files/OrdinaryFile.h"
 #include "client/kelvra_worker/FailureNotice.h"
 #include "client/kelvra_worker/WorkerSetup.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QHash>
 #include <QSettings>
 #include <QUuid>
@@ -14,18 +16,41 @@
 
 ZSINGLETON_DEFINE(kelvra_worker::UiSettings)
 
+using kelvra_files::OrdinaryFile;
+
 namespace kelvra_worker {
 
 namespace {
 
+const QString lockSuffix = QStringLiteral(".lock"); // of the file beside one that QSettings writes
+
+QVariantMap valuesIn(const QString &path)
+{
+    QVariantMap values;
+    if (!OrdinaryFile::problem(path).isEmpty())
+        return values;
+    const QSettings file(path, QSettings::IniFormat);
+    for (const QString &key : file.allKeys())
+        values.insert(key, file.value(key));
+    return values;
+}
+
 bool holdsAll(const QString &path, const QVariantMap &values)
 {
-    const QSettings file(path, QSettings::IniFormat);
+    const QVariantMap stored = valuesIn(path);
     for (auto value = values.begin(); value != values.end(); ++value) {
-        if (file.value(value.key()) != value.value())
+        if (stored.value(value.key()) != value.value())
             return false;
     }
     return true;
+}
+
+// QSettings would read what a killed run has left under that name, and wait for ever for a lock file to go.
+bool makeFree(const QString &path)
+{
+    QFile::remove(path);
+    const QFileInfo left(path);
+    return !left.exists() && !left.isSymLink();
 }
 
 bool replaceFile(const QString &path, const QString &by)
@@ -39,15 +64,16 @@ bool replaceFile(const QString &path, const QString &by)
 // of the old when everything is found in it; under a name that QSettings has nothing about in memory.
 bool store(const QString &path, const QHash<QString, QVariant> &changes)
 {
-    QVariantMap values;
-    const QSettings current(path, QSettings::IniFormat);
-    for (const QString &other : current.allKeys())
-        values.insert(other, current.value(other));
+    if (!OrdinaryFile::problem(path).isEmpty())
+        return false; // what has not been read is not written over
+    QVariantMap values = valuesIn(path);
     for (auto change = changes.begin(); change != changes.end(); ++change)
         values.insert(change.key(), change.value());
 
     const QString unfinished = path + QStringLiteral(".new");
     const QString finished = path + QLatin1Char('.') + QUuid::createUuid().toString(QUuid::Id128);
+    if (!makeFree(unfinished) || !makeFree(unfinished + lockSuffix))
+        return false;
     {
         QSettings file(unfinished, QSettings::IniFormat);
         file.clear();
@@ -90,7 +116,7 @@ QVariant UiSettings::getValue(const QString &key) const
     if (kept != d->memory.constEnd())
         return *kept;
     const QString path = d->filePath();
-    return path.isEmpty() ? QVariant() : QSettings(path, QSettings::IniFormat).value(key);
+    return path.isEmpty() ? QVariant() : valuesIn(path).value(key);
 }
 
 void UiSettings::setValue(const QString &key, const QVariant &value)

@@ -2,6 +2,7 @@
 
 #include "client/kelvra_base/AlertBox.h"
 #include "client/kelvra_data/Store.h"
+#include "client/kelvra_saas/SaasSetup.h"
 #include "client/kelvra_worker/AuditEvent.h"
 #include "client/kelvra_worker/AuditTrail.h"
 #include "client/kelvra_worker/CustomizeFile.h"
@@ -121,8 +122,10 @@ QString ClientShell::openData()
 {
     CustomizeFile customization(WorkerSetup::customizeFilePath());
     QString error;
-    if (!customization.read(&error) || !WorkerSetup::checkSettings(&error) ||
-        !Store::_instance().open(options.dataFolder, &error))
+    if (!customization.read(&error) || !WorkerSetup::checkSettings(&error))
+        return error;
+    error = kelvra_saas::SaasSetup::unfitFile(options.dataFolder);
+    if (!error.isEmpty() || !Store::_instance().open(options.dataFolder, &error))
         return error;
     cloud = std::make_unique<CloudSide>();
     cloud->open(options.dataFolder);

@@ -1,5 +1,6 @@
 #include "client/shell/SingleInstance.h"
 
+#include "client/files/OrdinaryFile.h"
 #include "client/kelvra_data/OwnerFolder.h"
 
 #include <QCryptographicHash>
@@ -98,6 +99,9 @@ bool SingleInstance::prepareFolder(QString *error)
     }
     if (!info.canonicalFilePath().isEmpty()) // gone again: the lock will tell
         folder = info.canonicalFilePath();
+    *error = kelvra_files::OrdinaryFile::problem(QDir(folder).filePath(lockFile));
+    if (!error->isEmpty())
+        return false;
     const QByteArray key = QFile::encodeName(folder) + '\0' + userId();
     const QByteArray hash = QCryptographicHash::hash(key, QCryptographicHash::Sha256).toHex().left(hashCharacters);
     serverName = QStringLiteral("kelvra_client-") + QString::fromLatin1(hash);

@@ -1,5 +1,6 @@
 #include "client/shell/Tour.h"
 
+#include "client/files/OrdinaryFile.h"
 #include "client/shell/Console.h"
 #include "client/shell/TourDriver.h"
 
@@ -8,6 +9,8 @@
 #include <QProcess>
 
 #include <cstdio>
+
+using kelvra_files::OrdinaryFile;
 
 namespace kelvra_client {
 
@@ -49,6 +52,8 @@ bool Tour::prepare()
         error = QStringLiteral("No folder for throw-away data can be made: %1.").arg(data.errorString());
     else if (!QDir().mkpath(folder))
         error = QStringLiteral("The folder %1 cannot be made.").arg(QDir::toNativeSeparators(folder));
+    else if (const QString unfit = OrdinaryFile::problem(text.fileName(), OrdinaryFile::anySize); !unfit.isEmpty())
+        error = unfit;
     else if (!text.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Text))
         error = QStringLiteral("The folder %1 cannot be written: %2.")
                     .arg(QDir::toNativeSeparators(folder), text.errorString());

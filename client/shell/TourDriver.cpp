@@ -1,5 +1,7 @@
 #include "client/shell/TourDriver.h"
 
+#include "client/files/OrdinaryFile.h"
+
 #include <QApplication>
 #include <QDir>
 #include <QPixmap>
@@ -8,6 +10,8 @@
 #include <QTimer>
 
 #include <cstdio>
+
+using kelvra_files::OrdinaryFile;
 
 namespace kelvra_client {
 
@@ -126,7 +130,8 @@ void TourDriver::finish(const TourStep &step, const QString &seen, bool ok)
     if (!step.picture.isEmpty()) {
         const QString name =
             QStringLiteral("%1-%2.png").arg(++pictures, 2, decimal, QLatin1Char('0')).arg(step.picture);
-        kept = TourInput::picture().save(QDir(folder).filePath(name), "PNG");
+        const QString path = QDir(folder).filePath(name);
+        kept = OrdinaryFile::problem(path, OrdinaryFile::anySize).isEmpty() && TourInput::picture().save(path, "PNG");
     }
     failed |= !ok || !kept;
     before = seen;

@@ -798,6 +798,21 @@
     </message>
 </context>
 <context>
+    <name>kelvra_files::OrdinaryFile</name>
+    <message>
+        <source>The file %1 cannot be read; check its permissions.</source>
+        <translation>Die Datei %1 kann nicht gelesen werden; prüfen Sie ihre Zugriffsrechte.</translation>
+    </message>
+    <message>
+        <source>The file %1 has more than %2 bytes; correct it or delete it.</source>
+        <translation>Die Datei %1 hat mehr als %2 Bytes; korrigieren oder löschen Sie sie.</translation>
+    </message>
+    <message>
+        <source>%1 is not a file but a folder, a pipe or a device; move it away.</source>
+        <translation>%1 ist keine Datei, sondern ein Ordner, eine Pipe oder ein Gerät; verschieben Sie das Objekt an einen anderen Ort.</translation>
+    </message>
+</context>
+<context>
     <name>kelvra_saas</name>
     <message>
         <source>The account is locked; minutes until it is unlocked: %1</source>
@@ -863,10 +878,6 @@
 <context>
     <name>kelvra_saas::AccountsFile</name>
     <message>
-        <source>The file %1 cannot be read.</source>
-        <translation>Die Datei %1 kann nicht gelesen werden.</translation>
-    </message>
-    <message>
         <source>The file %1 holds something else than text; correct it or delete it.</source>
         <translation>Die Datei %1 enthält etwas anderes als Text; korrigieren oder löschen Sie sie.</translation>
     </message>
@@ -923,10 +934,6 @@
 </context>
 <context>
     <name>kelvra_worker::IniFile</name>
-    <message>
-        <source>The file %1 cannot be read.</source>
-        <translation>Die Datei %1 kann nicht gelesen werden.</translation>
-    </message>
     <message>
         <source>The file %1 is damaged; correct it or delete it.</source>
         <translation>Die Datei %1 ist beschädigt; korrigieren oder löschen Sie sie.</translation>

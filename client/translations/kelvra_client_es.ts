@@ -798,6 +798,21 @@
     </message>
 </context>
 <context>
+    <name>kelvra_files::OrdinaryFile</name>
+    <message>
+        <source>The file %1 cannot be read; check its permissions.</source>
+        <translation>No se puede leer el archivo %1; compruebe sus permisos.</translation>
+    </message>
+    <message>
+        <source>The file %1 has more than %2 bytes; correct it or delete it.</source>
+        <translation>El archivo %1 tiene más de %2 bytes; corríjalo o elimínelo.</translation>
+    </message>
+    <message>
+        <source>%1 is not a file but a folder, a pipe or a device; move it away.</source>
+        <translation>%1 no es un archivo, sino una carpeta, una tubería o un dispositivo; muévalo a otro lugar.</translation>
+    </message>
+</context>
+<context>
     <name>kelvra_saas</name>
     <message>
         <source>The account is locked; minutes until it is unlocked: %1</source>
@@ -863,10 +878,6 @@
 <context>
     <name>kelvra_saas::AccountsFile</name>
     <message>
-        <source>The file %1 cannot be read.</source>
-        <translation>No se puede leer el archivo %1.</translation>
-    </message>
-    <message>
         <source>The file %1 holds something else than text; correct it or delete it.</source>
         <translation>El archivo %1 contiene algo que no es texto; corríjalo o elimínelo.</translation>
     </message>
@@ -923,10 +934,6 @@
 </context>
 <context>
     <name>kelvra_worker::IniFile</name>
-    <message>
-        <source>The file %1 cannot be read.</source>
-        <translation>No se puede leer el archivo %1.</translation>
-    </message>
     <message>
         <source>The file %1 is damaged; correct it or delete it.</source>
         <translation>El archivo %1 está dañado; corríjalo o elimínelo.</translation>

@@ -798,6 +798,21 @@
     </message>
 </context>
 <context>
+    <name>kelvra_files::OrdinaryFile</name>
+    <message>
+        <source>The file %1 cannot be read; check its permissions.</source>
+        <translation>Impossible de lire le fichier %1&#xa0;; vérifiez ses droits d’accès.</translation>
+    </message>
+    <message>
+        <source>The file %1 has more than %2 bytes; correct it or delete it.</source>
+        <translation>Le fichier %1 dépasse %2 octets&#xa0;; corrigez-le ou supprimez-le.</translation>
+    </message>
+    <message>
+        <source>%1 is not a file but a folder, a pipe or a device; move it away.</source>
+        <translation>%1 n’est pas un fichier, mais un dossier, un tube ou un périphérique&#xa0;; déplacez-le ailleurs.</translation>
+    </message>
+</context>
+<context>
     <name>kelvra_saas</name>
     <message>
         <source>The account is locked; minutes until it is unlocked: %1</source>
@@ -863,10 +878,6 @@
 <context>
     <name>kelvra_saas::AccountsFile</name>
     <message>
-        <source>The file %1 cannot be read.</source>
-        <translation>Impossible de lire le fichier %1.</translation>
-    </message>
-    <message>
         <source>The file %1 holds something else than text; correct it or delete it.</source>
         <translation>Le fichier %1 contient autre chose que du texte&#xa0;; corrigez-le ou supprimez-le.</translation>
     </message>
@@ -923,10 +934,6 @@
 </context>
 <context>
     <name>kelvra_worker::IniFile</name>
-    <message>
-        <source>The file %1 cannot be read.</source>
-        <translation>Impossible de lire le fichier %1.</translation>
-    </message>
     <message>
         <source>The file %1 is damaged; correct it or delete it.</source>
         <translation>Le fichier %1 est endommagé&#xa0;; corrigez-le ou supprimez-le.</translation>

@@ -798,6 +798,21 @@
     </message>
 </context>
 <context>
+    <name>kelvra_files::OrdinaryFile</name>
+    <message>
+        <source>The file %1 cannot be read; check its permissions.</source>
+        <translation>ファイル %1 を読み込めません。アクセス権を確認してください。</translation>
+    </message>
+    <message>
+        <source>The file %1 has more than %2 bytes; correct it or delete it.</source>
+        <translation>ファイル %1 は %2 バイトを超えています。修正するか削除してください。</translation>
+    </message>
+    <message>
+        <source>%1 is not a file but a folder, a pipe or a device; move it away.</source>
+        <translation>%1 はファイルではなく、フォルダー、パイプ、またはデバイスです。別の場所に移動してください。</translation>
+    </message>
+</context>
+<context>
     <name>kelvra_saas</name>
     <message>
         <source>The account is locked; minutes until it is unlocked: %1</source>
@@ -863,10 +878,6 @@
 <context>
     <name>kelvra_saas::AccountsFile</name>
     <message>
-        <source>The file %1 cannot be read.</source>
-        <translation>ファイル %1 を読み込めません。</translation>
-    </message>
-    <message>
         <source>The file %1 holds something else than text; correct it or delete it.</source>
         <translation>ファイル %1 にテキスト以外の内容が含まれています。修正するか削除してください。</translation>
     </message>
@@ -923,10 +934,6 @@
 </context>
 <context>
     <name>kelvra_worker::IniFile</name>
-    <message>
-        <source>The file %1 cannot be read.</source>
-        <translation>ファイル %1 を読み込めません。</translation>
-    </message>
     <message>
         <source>The file %1 is damaged; correct it or delete it.</source>
         <translation>ファイル %1 は破損しています。修正するか削除してください。</translation>

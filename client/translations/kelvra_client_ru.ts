@@ -798,6 +798,21 @@
     </message>
 </context>
 <context>
+    <name>kelvra_files::OrdinaryFile</name>
+    <message>
+        <source>The file %1 cannot be read; check its permissions.</source>
+        <translation>Не удаётся прочитать файл %1; проверьте права доступа к нему.</translation>
+    </message>
+    <message>
+        <source>The file %1 has more than %2 bytes; correct it or delete it.</source>
+        <translation>Размер файла %1 превышает %2 байт; исправьте или удалите его.</translation>
+    </message>
+    <message>
+        <source>%1 is not a file but a folder, a pipe or a device; move it away.</source>
+        <translation>%1 — не файл, а папка, канал или устройство; переместите этот объект в другое место.</translation>
+    </message>
+</context>
+<context>
     <name>kelvra_saas</name>
     <message>
         <source>The account is locked; minutes until it is unlocked: %1</source>
@@ -863,10 +878,6 @@
 <context>
     <name>kelvra_saas::AccountsFile</name>
     <message>
-        <source>The file %1 cannot be read.</source>
-        <translation>Не удаётся прочитать файл %1.</translation>
-    </message>
-    <message>
         <source>The file %1 holds something else than text; correct it or delete it.</source>
         <translation>Файл %1 содержит не только текст; исправьте или удалите его.</translation>
     </message>
@@ -923,10 +934,6 @@
 </context>
 <context>
     <name>kelvra_worker::IniFile</name>
-    <message>
-        <source>The file %1 cannot be read.</source>
-        <translation>Не удаётся прочитать файл %1.</translation>
-    </message>
     <message>
         <source>The file %1 is damaged; correct it or delete it.</source>
         <translation>Файл %1 повреждён; исправьте или удалите его.</translation>
