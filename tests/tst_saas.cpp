@@ -147,7 +147,9 @@ private slots:
                     "send:1000 +300 sms:2206"},
             {"scan", "account:2213 qr:1000 shown status:2001 confirm:0 scan@13700000009:0 scan scan@13900000002:0 "
                      "status:2002 result:2211 confirm cancel:0 status:2004 result:1000 shown:0 result:2212 status:2003 "
-                     "pwd:2229 account:1000 pwd:1000 auto:1000"},
+                     "pwd:2229 account:1000 account:2213 pwd:1000 auto:1000"},
+            {"scan is for one question", "qr:1000 scan confirm result:1000 off account:1101 on account:1000 "
+                                         "account:2213 qr:1000 scan confirm result:1000 +120 account:2213"},
             {"scan refused", "qr:1000 cancel:0 scan cancel confirm:0 status:2005 qr:1000 reject scan:0 status:2006 "
                              "qr:1000 scan rejectip status:2007 result:2211"},
             {"scan too late", "qr:1000 scan confirm +119 status:2004 shown +1 status:2003 result:2212 shown:0"},
@@ -185,6 +187,21 @@ private slots:
             play("restart badpwd:2229");
             QCOMPARE(readFile(file + ".damaged"), QByteArray("{\"terminal\":"));
         }
+    }
+
+    void changeOfTheAccountsShowsWhateverItsTime()
+    {
+        const QString path = at("cloud_accounts.ini");
+        const QByteArray changed = readFile(path).replace(password.toUtf8(), otherPassword.toUtf8());
+        const QDateTime written = QFileInfo(path).lastModified();
+        QTRY_VERIFY(written.msecsTo(QDateTime::currentDateTime()) > 3000); // by then its times are trusted
+        play("badpwd:2231/4");
+        QFile file(path);
+        QVERIFY(file.open(QFile::ReadWrite));
+        QCOMPARE(file.write(changed), file.size());
+        QVERIFY(isWindows || (file.flush() && file.setFileTime(written, QFile::FileModificationTime)));
+        file.close();
+        play("badpwd:2229");
     }
 
     void answersAreLateLostOrDropped()

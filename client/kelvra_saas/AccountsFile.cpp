@@ -1,18 +1,23 @@
 #include "client/kelvra_saas/AccountsFile.h"
 
+#include "client/files/OrdinaryFile.h"
+
 #include <QDir>
-#include <QFile>
+#include <QFileInfo>
 #include <QRegularExpression>
 #include <QSaveFile>
 #include <QTextCodec>
 
 #include <algorithm>
+#include <utility>
+
+using kelvra_files::OrdinaryFile;
 
 namespace kelvra_saas {
 
 namespace {
 
-constexpr qint64 maxFileBytes = 1024 * 1024;
+constexpr qint64 quietMs = 2500;     // the coarsest file systems count time in steps of two seconds
 constexpr int minPasswordLength = 8; // what the login form lets through
 
 const QByteArray demoFile =
@@ -75,12 +80,9 @@ const CloudAccount *AccountsFile::find(const QString &phone) const
 
 bool AccountsFile::read(bool *changed)
 {
-    const QString native = QDir::toNativeSeparators(path);
     QVector<CloudAccount> found;
     const Loaded loaded = load();
-    if (loaded == Loaded::Unreadable)
-        sentence = tr("The file %1 cannot be read.").arg(native);
-    else if (loaded == Loaded::Yes)
+    if (loaded == Loaded::Yes)
         sentence = parse(&found);
     const bool fresh = loaded == Loaded::Yes && sentence.isEmpty();
     if (fresh)
@@ -92,18 +94,29 @@ bool AccountsFile::read(bool *changed)
 
 AccountsFile::Loaded AccountsFile::load()
 {
-    QFile file(path);
-    QByteArray now = demoFile;
-    if (!path.isEmpty() && (file.exists() || create())) {
-        if (!file.open(QIODevice::ReadOnly) || file.size() > maxFileBytes) {
-            data.reset();
-            return Loaded::Unreadable;
-        }
-        now = file.readAll();
-    }
-    const bool changed = now != data;
-    data = now;
-    return changed ? Loaded::Yes : Loaded::Unchanged;
+    // Before the reading: a change in between then shows the next time.
+    const std::optional<Stamp> now = stampNow();
+    if (now && now == stamp)
+        return Loaded::Unchanged;
+    const std::optional<QByteArray> before = std::exchange(data, std::nullopt);
+    stamp.reset();
+    if (path.isEmpty() || (!QFileInfo::exists(path) && !create()))
+        data = demoFile;
+    else
+        data = OrdinaryFile::read(path, &sentence);
+    if (!data)
+        return Loaded::Unreadable;
+    stamp = now;
+    return data == before ? Loaded::Unchanged : Loaded::Yes;
+}
+
+std::optional<AccountsFile::Stamp> AccountsFile::stampNow() const
+{
+    const QFileInfo file(path);
+    const QDateTime modified = file.lastModified();
+    const QDateTime changed = file.metadataChangeTime();
+    const bool quiet = file.exists() && qMax(modified, changed).msecsTo(QDateTime::currentDateTimeUtc()) > quietMs;
+    return quiet ? std::make_optional(Stamp(file.size(), modified, changed)) : std::nullopt;
 }
 
 bool AccountsFile::create() const

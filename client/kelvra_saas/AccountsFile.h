@@ -3,8 +3,10 @@
 #include "client/kelvra_saas/CloudSimulation.h"
 
 #include <QCoreApplication>
+#include <QDateTime>
 
 #include <optional>
+#include <tuple>
 
 namespace kelvra_saas {
 
@@ -35,9 +37,14 @@ public:
     const QString &problem() const { return sentence; }
 
 private:
+    /** Size, time of the last modification, time of the last change of any kind (none on Windows). */
+    using Stamp = std::tuple<qint64, QDateTime, QDateTime>;
+
     enum class Loaded { Yes, Unchanged, Unreadable };
 
     Loaded load();
+    /** Nothing for a file that was changed just now: its times could not tell the next change from that one. */
+    std::optional<Stamp> stampNow() const;
     bool create() const;
     /** Empty, or a sentence about the first mistake; `found` is then of no use. */
     QString parse(QVector<CloudAccount> *found) const;
@@ -48,6 +55,7 @@ private:
 
     QString path;
     std::optional<QByteArray> data; ///< what has been read last
+    std::optional<Stamp> stamp;     ///< of the file that it was read from; while it stays, so does the content
     QVector<CloudAccount> known;
     QString sentence;
 };

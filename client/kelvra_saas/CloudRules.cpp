@@ -10,7 +10,6 @@ namespace kelvra_saas {
 
 namespace {
 
-const QString recordsFile = QStringLiteral("cloud_service.json");
 const QString passwordLogin = QStringLiteral("PASSWORD");
 const QString codeLogin = QStringLiteral("VERIFY_CODE");
 
@@ -59,7 +58,7 @@ CloudRules::CloudRules(const CloudSimulation::Settings &settings)
     : clock(settings.clock)
     , generator(settings.seed)
     , accounts(inFolder(settings.folder, AccountsFile::fileName))
-    , records(inFolder(settings.folder, recordsFile))
+    , records(inFolder(settings.folder, ServiceRecords::fileName))
 {
     readAccounts();
 }
@@ -200,7 +199,7 @@ CloudAnswer CloudRules::qrResult(const QVariantMap &fields)
     const int status = codes.status(codeId, terminal, now());
     if (status != LoginWorker::QRCodeConfirmed)
         return answerWith(status == LoginWorker::QRCodeInvalid ? codeInvalidCode : codeNotConfirmedCode);
-    scannedAccounts.insert(terminal, codes.redeem(codeId, terminal, now()));
+    scans.insert(terminal, {codes.redeem(codeId, terminal, now()), now().addSecs(QRCodes::validitySeconds)});
     emit signalCodeChanged();
     return answerWith(successCode);
 }
@@ -208,9 +207,11 @@ CloudAnswer CloudRules::qrResult(const QVariantMap &fields)
 CloudAnswer CloudRules::qrAccount(const QVariantMap &fields)
 {
     const QString terminal = fields.value(terminalField).toString();
-    if (!scannedAccounts.contains(terminal))
+    // Taken with the first question, whatever comes of it: a scan lets an account in once.
+    const Scan scan = scans.take(terminal);
+    if (scan.account.isEmpty() || now() >= scan.expires)
         return answerWith(noScanCode);
-    const CloudAccount *account = accounts.find(scannedAccounts.value(terminal));
+    const CloudAccount *account = accounts.find(scan.account);
     if (!account)
         return answerWith(unknownAccountCode);
     return lockedSeconds(account->phone) > 0 ? refuseLocked(account->phone, lockedCode) : admit(*account, terminal);

@@ -57,13 +57,20 @@ private:
     CloudAnswer countError(const QString &phone, int code, int lockCode);
     CloudAnswer refuseLocked(const QString &phone, int code) const;
 
+    /** A completed QR login that its terminal has yet to ask the account of. */
+    struct Scan
+    {
+        QString account;
+        QDateTime expires;
+    };
+
     const std::function<QDateTime()> clock;
     QRandomGenerator generator;
     AccountsFile accounts;
     ServiceRecords records;
     SmsCodes sms;
     QRCodes codes;
-    QMap<QString, QString> scannedAccounts; ///< by terminal: the account of its last completed QR login
+    QMap<QString, Scan> scans; ///< the newest of each terminal
 };
 
 } // namespace kelvra_saas

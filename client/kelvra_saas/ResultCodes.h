@@ -14,9 +14,9 @@ constexpr int wrongSmsCode = 2205;         ///< second code: attempts left
 constexpr int noSmsCode = 2206;            ///< none has been sent, or it has expired or been used
 constexpr int codeNotConfirmedCode = 2211; ///< QR login: the phone has not confirmed it
 constexpr int codeInvalidCode = 2212;      ///< QR login: the code has expired or is not this terminal's
-constexpr int noScanCode = 2213;           ///< no QR login has been completed on this terminal
-constexpr int nothingStoredCode = 2221;    ///< the client's own: no automatic login is stored for the account
-constexpr int tokenInvalidCode = 2222;     ///< the stored automatic login does not hold any more
+constexpr int noScanCode = 2213;        ///< no QR login completed on this terminal, or its account has been asked for
+constexpr int nothingStoredCode = 2221; ///< the client's own: no automatic login is stored for the account
+constexpr int tokenInvalidCode = 2222;  ///< the stored automatic login does not hold any more
 constexpr int insecureTerminalCode = 2229; ///< first to log in here by SMS or QR code, then by password
 constexpr int wrongPasswordCode = 2231;    ///< second code: attempts left
 
