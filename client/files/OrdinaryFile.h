@@ -18,7 +18,7 @@ class OrdinaryFile
     Q_DECLARE_TR_FUNCTIONS(kelvra_files::OrdinaryFile)
 
 public:
-    static constexpr qint64 textBytes = 1024 * 1024; ///< more than a person writes
+    static constexpr qint64 textBytes = Q_INT64_C(1024) * 1024; ///< more than a person writes
     static constexpr qint64 anySize = std::numeric_limits<qint64>::max();
 
     OrdinaryFile() = delete;

@@ -13,7 +13,7 @@ namespace kelvra_saas {
 
 namespace {
 
-constexpr qint64 maxFileBytes = 16 * 1024 * 1024;
+constexpr qint64 maxFileBytes = Q_INT64_C(16) * 1024 * 1024;
 const QString damagedSuffix = QStringLiteral(".damaged");
 
 } // namespace

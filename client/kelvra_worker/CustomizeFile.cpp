@@ -12,7 +12,7 @@ namespace kelvra_worker {
 
 namespace {
 
-constexpr qint64 maxImageBytes = 64 * 1024 * 1024;
+constexpr qint64 maxImageBytes = Q_INT64_C(64) * 1024 * 1024;
 
 const QString cloudLoginKey = QStringLiteral("login/cloud_login");
 const QString customImageKey = QStringLiteral("loading/custom_image");
