@@ -25,6 +25,7 @@ constexpr int sqliteNotADatabase = 26;
 
 constexpr QFile::Permissions ownerFile = QFile::ReadOwner | QFile::WriteOwner;
 
+const QString driver = QStringLiteral("QSQLITE");
 const QString connectionName = QStringLiteral("kelvra_data");
 const QString databaseFile = QStringLiteral("kelvra.db");
 const QString keyFile = QStringLiteral("kelvra.key");
@@ -113,9 +114,12 @@ bool Store::open(const QString &folder, QString *error)
 
 QString Store::openFiles(const QString &folder, bool *created)
 {
-    const bool newFolder = !QFileInfo::exists(folder);
-    if (folder.isEmpty() || !QDir().mkpath(folder) || (newFolder && !OwnerFolder::closeToOthers(folder)))
-        return tr("The data folder %1 cannot be created.").arg(QDir::toNativeSeparators(folder));
+    if (!QSqlDatabase::isDriverAvailable(driver))
+        return tr("The SQLite driver of Qt is missing. Install the client anew, or this driver alone (on Debian the "
+                  "package libqt5sql5-sqlite).");
+    QString problem = OwnerFolder::prepare(folder);
+    if (!problem.isEmpty())
+        return problem;
 
     // Made here rather than by SQLite: the files that SQLite puts beside it get its permissions.
     const QString path = QDir(folder).filePath(databaseFile);
@@ -127,7 +131,7 @@ QString Store::openFiles(const QString &folder, bool *created)
     file.close();
     // SQLite would leave files of its own beside a database that it may only read.
     if (!file.exists() || !QFileInfo(path).isWritable())
-        return tr("The data folder %1 cannot be written to.").arg(QDir::toNativeSeparators(folder));
+        return OwnerFolder::notWritable(folder);
 
     int version = 0;
     problem = connectTo(path);
@@ -146,7 +150,7 @@ QString Store::openFiles(const QString &folder, bool *created)
 
 QString Store::connectTo(const QString &file) const
 {
-    QSqlDatabase connection = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), connectionName);
+    QSqlDatabase connection = QSqlDatabase::addDatabase(driver, connectionName);
     connection.setDatabaseName(file);
     connection.setConnectOptions(busyTimeout);
     const bool ready = connection.open();
