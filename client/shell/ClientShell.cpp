@@ -11,7 +11,9 @@
 #include "client/shell/ClientStyle.h"
 #include "client/shell/CloudSide.h"
 #include "client/shell/Console.h"
+#include "client/shell/ExitCode.h"
 #include "client/shell/MainWindow.h"
+#include "client/shell/PasswordInput.h"
 #include "client/shell/SingleInstance.h"
 #include "host/kelvra_base/BaseTools.h"
 #include "host/kelvra_contact/SystemMsg.h"
@@ -44,7 +46,6 @@ namespace kelvra_client {
 
 namespace {
 
-constexpr int exitNoData = 1;
 constexpr int auditEntriesSearched = 200; // for how the user has logged in
 constexpr int passwordMethod = 0;         // as LoginLogs takes it
 const QString geometryKey = QStringLiteral("main_window_geometry");
@@ -73,21 +74,46 @@ ClientShell::~ClientShell()
     Store::_instance().close();
 }
 
-int ClientShell::run(const StartOptions &startOptions, const QString &password)
+int ClientShell::run(const StartOptions &startOptions)
 {
     options = startOptions;
-    handedPassword = password;
     prepareApplication();
-    if (const std::optional<int> exitCode = claimFolder())
+    if (const std::optional<int> exitCode = begin())
         return *exitCode;
-    const QString problem = openData();
-    if (!problem.isEmpty()) {
-        refuse(problem);
-        return exitNoData;
-    }
     connectMessages();
     QTimer::singleShot(0, this, &ClientShell::startLogin);
     return QCoreApplication::exec();
+}
+
+std::optional<int> ClientShell::begin()
+{
+    if (!ClientStyle::hasFonts()) {
+        // An alert could not be read.
+        Console::complain(tr("There are no fonts, so that no text can be shown. Install a font (on Debian the package "
+                             "fonts-dejavu-core)."));
+        return ExitCannotRun;
+    }
+    if (options.dataFolder.isEmpty()) {
+        refuse(tr("There is no default data folder: HOME has to be the full path of an existing folder, and "
+                  "XDG_DATA_HOME, where it is set, a full path. Correct them, or name a folder with --data-dir."));
+        return ExitCannotRun;
+    }
+    if (!options.user.isEmpty()) {
+        // Only a look at first: the folder is not kept from others while somebody types.
+        if (const std::optional<int> exitCode = claimFolder())
+            return exitCode;
+        instance.reset();
+        if (!readPassword())
+            return ExitWrongUse;
+    }
+    if (const std::optional<int> exitCode = claimFolder())
+        return exitCode;
+    const QString problem = openData();
+    if (problem.isEmpty())
+        return std::nullopt;
+    instance.reset(); // the next start does not wait until the alert is closed
+    refuse(problem);
+    return ExitCannotRun;
 }
 
 void ClientShell::prepareApplication()
@@ -110,12 +136,28 @@ std::optional<int> ClientShell::claimFolder()
     case SingleInstance::First:
         return std::nullopt;
     case SingleInstance::Second:
-        return 0;
+        if (options.user.isEmpty())
+            return ExitDone;
+        refuse(tr("A client is already running on the data folder %1 and has come to the front. Nobody was logged in "
+                  "and the password was not used: log in there, or quit that client and start again.")
+                   .arg(QDir::toNativeSeparators(options.dataFolder)));
+        return ExitNotLoggedIn;
     case SingleInstance::Failed:
         break;
     }
     refuse(error);
-    return exitNoData;
+    return ExitCannotRun;
+}
+
+bool ClientShell::readPassword()
+{
+    QString error;
+    const std::optional<QString> given = PasswordInput::read(&error);
+    if (given)
+        handedPassword = *given;
+    else
+        Console::complain(error);
+    return given.has_value();
 }
 
 QString ClientShell::openData()

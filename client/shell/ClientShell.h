@@ -28,16 +28,19 @@ public:
     /**
      * Runs the client until the user quits. The application object exists.
      *
-     * @param password that of the user whom the options name
-     * @return exit code: 0, also where another client has been brought to the front; 1 when the data folder cannot be
-     *         used
+     * The password of a user whom the options name is read from standard input, unless another client has the folder.
+     *
+     * @return an ExitCode
      */
-    int run(const StartOptions &startOptions, const QString &password);
+    int run(const StartOptions &startOptions);
 
 private:
     void prepareApplication();
+    /** Exit code where the client has nothing to run on. */
+    std::optional<int> begin();
     /** Exit code where the folder does not become this client's. */
     std::optional<int> claimFolder();
+    bool readPassword();
     /** Everything is looked at before anything is written; empty, or a sentence about what cannot be used. */
     QString openData();
     void refuse(const QString &sentence) const;

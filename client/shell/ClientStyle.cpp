@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QFile>
+#include <QFontMetrics>
 #include <QPalette>
 #include <QStyleFactory>
 #include <QToolTip>
@@ -76,6 +77,13 @@ void ClientStyle::install(QApplication &application)
     // away.
     QApplication::setFont(createFont());
     QToolTip::setFont(QApplication::font());
+}
+
+bool ClientStyle::hasFonts()
+{
+    // Without fonts each letter is drawn as a box. A list of families would name some all the same.
+    const bool drawsLetters = QFontMetrics(QApplication::font()).inFont(QLatin1Char('A'));
+    return drawsLetters || QGuiApplication::platformName() == QStringLiteral("minimal");
 }
 
 } // namespace kelvra_client

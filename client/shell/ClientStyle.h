@@ -12,6 +12,9 @@ public:
 
     /** Dresses `application`; to be called before the first widget is made and before a module is started. */
     static void install(QApplication &application);
+
+    /** Whether texts can be drawn; true as well where the platform draws none. */
+    static bool hasFonts();
 };
 
 } // namespace kelvra_client

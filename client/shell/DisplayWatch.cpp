@@ -1,6 +1,7 @@
 #include "client/shell/DisplayWatch.h"
 
 #include "client/shell/Console.h"
+#include "client/shell/ExitCode.h"
 
 #include <QString>
 
@@ -11,7 +12,6 @@ namespace kelvra_client {
 
 namespace {
 
-constexpr int exitNoDisplay = 1;
 QtMessageHandler before = nullptr;
 
 void endInsteadOfAborting(QtMsgType type, const QMessageLogContext &context, const QString &message)
@@ -56,7 +56,7 @@ int DisplayWatch::complain()
                                    qEnvironmentVariable("QT_QPA_PLATFORM")));
     else
         Console::complain(QStringLiteral("There is no display: neither DISPLAY nor WAYLAND_DISPLAY is set."));
-    return exitNoDisplay;
+    return ExitCannotRun;
 }
 
 } // namespace kelvra_client

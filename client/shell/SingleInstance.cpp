@@ -2,8 +2,11 @@
 
 #include "client/files/OrdinaryFile.h"
 #include "client/kelvra_data/OwnerFolder.h"
+#include "client/shell/Console.h"
 
 #include <QCryptographicHash>
+#include <QDateTime>
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
@@ -11,21 +14,26 @@
 #include <QLocalServer>
 #include <QLocalSocket>
 #include <QLockFile>
+#include <QSysInfo>
 #include <QThread>
 
 #ifdef Q_OS_UNIX
+#    include <sys/socket.h>
 #    include <unistd.h>
 #endif
+
+using kelvra_data::OwnerFolder;
 
 namespace kelvra_client {
 
 namespace {
 
-constexpr int answerTimeout = 10000; // ms, also for a client that has yet to open its first window
+constexpr int startTimeout = 10000;  // ms, for a client that has yet to open its first window
+constexpr int answerTimeout = 2000;  // ms, for one that runs longer than that
 constexpr int abandonedAfter = 1000; // ms without a client behind a lock file
 constexpr int pollInterval = 50;     // ms
 constexpr int hashCharacters = 32;   // the path of a socket may not be long
-constexpr char answer = '1';
+const QByteArray answer = QByteArrayLiteral("kelvra_client: in front\n");
 
 constexpr QFile::Permissions ownerFile = QFile::ReadOwner | QFile::WriteOwner;
 const QString lockFile = QStringLiteral("kelvra.lock");
@@ -37,6 +45,36 @@ QByteArray userId()
 #else
     return qgetenv("USERNAME");
 #endif
+}
+
+struct Peer
+{
+    bool isOwnAccount = false;
+    qint64 process = 0; ///< 0: unknown
+};
+
+/** Who is at the other end. Where the system does not tell, only the answer shows it. */
+Peer peerOf(const QLocalSocket &socket)
+{
+#ifdef Q_OS_LINUX
+    ucred peer = {};
+    socklen_t size = sizeof(peer);
+    if (getsockopt(int(socket.socketDescriptor()), SOL_SOCKET, SO_PEERCRED, &peer, &size) != 0)
+        return {};
+    return {peer.uid == geteuid(), peer.pid};
+#else
+    Q_UNUSED(socket)
+    return {true, 0};
+#endif
+}
+
+QByteArray readAnswer(QLocalSocket *socket, const QDeadlineTimer &deadline)
+{
+    QByteArray text;
+    while (text.size() < answer.size() &&
+           (socket->bytesAvailable() > 0 || socket->waitForReadyRead(int(deadline.remainingTime()))))
+        text += socket->read(answer.size() - text.size());
+    return text;
 }
 
 } // namespace
@@ -59,85 +97,127 @@ SingleInstance::Claim SingleInstance::claim(QString *error)
 {
     QElapsedTimer clock;
     clock.start();
-    while (clock.elapsed() < answerTimeout) {
+    Reply reply = Silence;
+    for (int left = startTimeout; left > 0; left = timeLeft(int(clock.elapsed()))) {
         // Each time: a client that gives up takes the folder away that it has made.
         if (!prepareFolder(error))
             return Failed;
         if (lock->tryLock(0)) {
-            QFile::setPermissions(QDir(folder).filePath(lockFile), ownerFile);
-            listen();
+            QFile::setPermissions(lockPath(), ownerFile);
             return First;
         }
         if (lock->error() != QLockFile::LockFailedError && QFileInfo::exists(folder)) {
-            *error = tr("The data folder %1 cannot be written to.").arg(shownFolder());
+            *error = OwnerFolder::notWritable(folder);
             return Failed;
         }
-        if (tellFirst(answerTimeout - int(clock.elapsed())))
+        reply = tellFirst(timeLeft(int(clock.elapsed())));
+        if (reply == InFront)
             return Second;
         // Spares the file of a client that lives; goes where another process has got the number of a dead one.
         if (clock.elapsed() > abandonedAfter)
             lock->removeStaleLockFile();
         QThread::msleep(pollInterval);
     }
-    *error = tr("The client is already running on the data folder %1, but it does not answer.").arg(shownFolder());
+    *error = whyNotInFront(reply);
     return Failed;
 }
 
 bool SingleInstance::prepareFolder(QString *error)
 {
     const bool missing = !QFileInfo::exists(folder);
-    folderMade |= missing && QDir().mkpath(folder);
-    const QFileInfo info(folder);
-    if (!info.isDir() || (missing && !kelvra_data::OwnerFolder::closeToOthers(folder))) {
-        *error = missing ? tr("The data folder %1 cannot be created.").arg(shownFolder())
-                         : tr("The data folder %1 is not a folder.").arg(shownFolder());
+    *error = OwnerFolder::prepare(folder);
+    if (!error->isEmpty())
         return false;
-    }
-    if (!info.isReadable() || !info.isExecutable()) {
-        *error = tr("The data folder %1 cannot be read.").arg(shownFolder());
-        return false;
-    }
-    if (!info.canonicalFilePath().isEmpty()) // gone again: the lock will tell
-        folder = info.canonicalFilePath();
-    *error = kelvra_files::OrdinaryFile::problem(QDir(folder).filePath(lockFile));
+    folderMade |= missing;
+    const QString path = QFileInfo(folder).canonicalFilePath();
+    if (!path.isEmpty()) // gone again: the lock will tell
+        folder = path;
+    *error = kelvra_files::OrdinaryFile::problem(lockPath());
     if (!error->isEmpty())
         return false;
     const QByteArray key = QFile::encodeName(folder) + '\0' + userId();
     const QByteArray hash = QCryptographicHash::hash(key, QCryptographicHash::Sha256).toHex().left(hashCharacters);
     serverName = QStringLiteral("kelvra_client-") + QString::fromLatin1(hash);
-    lock = std::make_unique<QLockFile>(QDir(folder).filePath(lockFile));
+    lock = std::make_unique<QLockFile>(lockPath());
     lock->setStaleLockTime(0); // a client may run for weeks: only one whose process is gone has lost its folder
     return true;
 }
 
-// Whoever has the lock owns the name, so that what is there under it was left by a process that is gone.
-void SingleInstance::listen()
+int SingleInstance::timeLeft(int elapsed) const
 {
-    server = std::make_unique<QLocalServer>();
-    server->setSocketOptions(QLocalServer::UserAccessOption);
-    QLocalServer::removeServer(serverName);
-    if (!server->listen(serverName))
-        qWarning("A repeated start will not be noticed: %s.", qUtf8Printable(server->errorString()));
+    const QFileInfo info(lockPath());
+    const qint64 age = info.exists() ? info.lastModified().msecsTo(QDateTime::currentDateTime()) : startTimeout;
+    const bool isStarting = age >= 0 && age < startTimeout; // below 0 the clock has been turned back
+    const int toStart = isStarting ? startTimeout - int(age) : 0;
+    return qBound(0, qMax(answerTimeout - elapsed, toStart), startTimeout - elapsed);
 }
 
 // The answer is waited for: a client that ends before it comes has not come to the front.
-bool SingleInstance::tellFirst(int timeout) const
+SingleInstance::Reply SingleInstance::tellFirst(int timeout) const
 {
+    const QDeadlineTimer deadline(timeout);
     QLocalSocket socket;
     socket.connectToServer(serverName);
-    if (!socket.waitForConnected(timeout))
-        return false;
-    char byte = '\0';
-    return (socket.bytesAvailable() > 0 || socket.waitForReadyRead(timeout)) && socket.getChar(&byte) && byte == answer;
+    if (!socket.waitForConnected(timeout)) {
+        const bool isOfOthers = !OwnerFolder::otherOwner(socketPath()).isEmpty();
+        return isOfOthers || socket.error() == QLocalSocket::SocketAccessError ? Foreign : Silence;
+    }
+    const Peer peer = peerOf(socket);
+    if (!peer.isOwnAccount)
+        return Foreign;
+    const QByteArray text = readAnswer(&socket, deadline);
+    if (text == answer)
+        return InFront;
+    const bool isOther = !text.isEmpty() || (peer.process != 0 && peer.process != holder());
+    return isOther ? Foreign : Silence;
 }
 
+qint64 SingleInstance::holder(QString *computer) const
+{
+    qint64 process = 0;
+    QString name;
+    QString program;
+    lock->getLockInfo(&process, &name, &program);
+    if (computer)
+        *computer = name;
+    return process;
+}
+
+QString SingleInstance::whyNotInFront(Reply reply) const
+{
+    const QString shown = QDir::toNativeSeparators(folder);
+    const QString owner = OwnerFolder::otherOwner(lockPath());
+    if (!owner.isEmpty())
+        return tr("A client of the account %2 is running on the data folder %1. Have it quit there, or name another "
+                  "folder with --data-dir.")
+            .arg(shown, owner);
+    QString computer;
+    const qint64 process = holder(&computer);
+    if (!computer.isEmpty() && computer != QSysInfo::machineHostName())
+        return tr("A client on the computer %2 is running on the data folder %1. Quit it there, or name another folder "
+                  "with --data-dir.")
+            .arg(shown, computer);
+    if (reply == Foreign)
+        return tr("The client is already running on the data folder %1 (process %2), but cannot be brought to the "
+                  "front, because another program has taken its name %3. Switch to the client's window, and end that "
+                  "program.")
+            .arg(shown, QString::number(process), QDir::toNativeSeparators(socketPath()));
+    return tr("The client is already running on the data folder %1 (process %2), but it does not answer. Switch to its "
+              "window; where it is frozen, end that process and start the client again.")
+        .arg(shown, QString::number(process));
+}
+
+// Whoever has the lock owns the name, so that what is there under it was left by a process that is gone.
 void SingleInstance::answerRepeatedStarts()
 {
-    if (!server)
-        return;
-    connect(server.get(), &QLocalServer::newConnection, this, &SingleInstance::greetWaiting, Qt::UniqueConnection);
-    if (server->hasPendingConnections())
-        greetWaiting();
+    server = std::make_unique<QLocalServer>();
+    server->setSocketOptions(QLocalServer::UserAccessOption);
+    connect(server.get(), &QLocalServer::newConnection, this, &SingleInstance::greetWaiting);
+    QLocalServer::removeServer(serverName);
+    if (!server->listen(serverName))
+        Console::complain(tr("A second start cannot bring this client to the front, because another program has taken "
+                             "its name %1. End that program and start the client again.")
+                              .arg(QDir::toNativeSeparators(socketPath())));
 }
 
 void SingleInstance::greetWaiting()
@@ -147,14 +227,23 @@ void SingleInstance::greetWaiting()
         // Queued: on Windows a socket that closes while it reports a write deletes what reports it, which then goes on.
         // To disconnect before the answer is written comes to the same.
         connect(socket, &QLocalSocket::bytesWritten, socket, &QLocalSocket::disconnectFromServer, Qt::QueuedConnection);
-        socket->putChar(answer);
+        socket->write(answer);
     }
     emit signalRepeatedStart();
 }
 
-QString SingleInstance::shownFolder() const
+QString SingleInstance::lockPath() const
 {
-    return QDir::toNativeSeparators(folder);
+    return QDir(folder).filePath(lockFile);
+}
+
+QString SingleInstance::socketPath() const
+{
+#ifdef Q_OS_WIN
+    return QStringLiteral("//./pipe/") + serverName;
+#else
+    return QDir(QDir::tempPath()).filePath(serverName);
+#endif
 }
 
 } // namespace kelvra_client

@@ -28,23 +28,35 @@ public:
     ~SingleInstance() override;
 
     /**
-     * Claims the folder, which is made for its owner only when there is none. Waits up to ten seconds for a client
-     * that is still in its own start. With Failed `error` holds a sentence for the user.
+     * Claims the folder, which is made for its owner only when there is none. The lock file alone decides who is
+     * first. Waits two seconds for that one's answer, and up to ten for a client that is still in its own start. With
+     * Failed `error` holds a sentence for the user.
      */
     Claim claim(QString *error);
 
-    /** From now on repeated starts are told, those that have waited since claim() at once. */
+    /** From now on repeated starts are answered, those that have waited since claim() at once. */
     void answerRepeatedStarts();
 
 signals:
     void signalRepeatedStart();
 
 private:
+    enum Reply {
+        InFront, ///< the client has come to the front
+        Silence, ///< nobody has answered
+        Foreign  ///< another program answers to the client's name, or keeps silent under it
+    };
+
     bool prepareFolder(QString *error);
-    void listen();
-    bool tellFirst(int timeout) const;
+    /** Milliseconds that the client which has the folder may still take to answer. */
+    int timeLeft(int elapsed) const;
+    Reply tellFirst(int timeout) const;
+    /** The process that has the lock, and the computer that it runs on. */
+    qint64 holder(QString *computer = nullptr) const;
+    QString whyNotInFront(Reply reply) const;
     void greetWaiting();
-    QString shownFolder() const;
+    QString lockPath() const;
+    QString socketPath() const;
 
     QString folder;
     QString serverName;

@@ -20,6 +20,16 @@ const QString userOption = QStringLiteral("user");
 const QString noPhoneOption = QStringLiteral("no-phone");
 const QString tourOption = QStringLiteral("tour");
 
+const QString exitCodes =
+    QStringLiteral("\n"
+                   "Exit status:\n"
+                   "  0  after quitting, or after a client that runs on the folder has come to the front\n"
+                   "  1  the client cannot run (folder, display, fonts, database), or one that runs on\n"
+                   "     the folder could not be brought to the front\n"
+                   "  2  wrong options, or no usable password on standard input\n"
+                   "  3  --user was not used, as a client runs on the folder: that one has come to the\n"
+                   "     front, and nobody was logged in");
+
 QStringList languageList()
 {
     QStringList list;
@@ -27,6 +37,29 @@ QStringList languageList()
     for (auto name = names.begin(); name != names.end(); ++name)
         list << QStringLiteral("%1 %2").arg(name.key()).arg(name.value());
     return list;
+}
+
+/** Empty where the platform has no such folder, which is where the environment names no usable home. */
+QString defaultFolder()
+{
+#ifdef Q_OS_UNIX
+    // The toolkit would take the root folder, or one below the folder that the client is started in.
+    const QString home = qEnvironmentVariable("HOME");
+    const bool isHomeUsable = QDir::isAbsolutePath(home) && QFileInfo(home).isDir();
+    if (qEnvironmentVariableIsEmpty("XDG_DATA_HOME") && !isHomeUsable)
+        return {};
+#endif
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+    return QDir::isAbsolutePath(folder) ? folder : QString();
+}
+
+/** Apart from the options, whose texts are broken into lines at any place. */
+QString defaultFolderText()
+{
+    const QString folder = defaultFolder();
+    return QStringLiteral("\nDefault of --data-dir:\n  %1\n")
+        .arg(folder.isEmpty() ? QStringLiteral("none, as the environment names no home folder")
+                              : QDir::toNativeSeparators(folder));
 }
 
 // In English: the language is chosen in the settings of the folder that is named here.
@@ -37,8 +70,8 @@ void addOptions(QCommandLineParser *parser)
     parser->addOptions({
         {{QStringLiteral("h"), helpOption}, QStringLiteral("Shows this help.")},
         {{QStringLiteral("v"), versionOption}, QStringLiteral("Shows the version.")},
-        {folderOption, QStringLiteral("Folder of users, settings and logs."), QStringLiteral("DIR"),
-         QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)},
+        {folderOption, QStringLiteral("Folder of users, settings and logs; nobody else may be able to write to it."),
+         QStringLiteral("DIR"), defaultFolder()},
         {languageOption, QStringLiteral("Language of this run: %1.").arg(languageList().join(QStringLiteral(", "))),
          QStringLiteral("ID")},
         {userOption,
@@ -53,12 +86,21 @@ void addOptions(QCommandLineParser *parser)
     });
 }
 
-/** Empty, or what is wrong with the values that have to be there. */
-QString missingValue(const QCommandLineParser &parser)
+bool isKnownLanguage(const QString &text)
+{
+    bool isNumber = false;
+    const int id = text.toInt(&isNumber);
+    return isNumber && SysLanguage::_instance().getLanguageNames().contains(id);
+}
+
+/** Empty, or what is wrong with the values: one is missing, or there is a second. */
+QString wrongNumberOfValues(const QCommandLineParser &parser)
 {
     for (const QString &option : {folderOption, languageOption, userOption, tourOption}) {
         // An option in the place of the value: the value has been forgotten.
         const QString value = parser.value(option);
+        if (parser.values(option).size() > 1 && parser.isSet(option))
+            return QStringLiteral("'--%1' is there more than once.").arg(option);
         if (parser.isSet(option) && (value.trimmed().isEmpty() || value.startsWith(QLatin1String("--"))))
             return QStringLiteral("Missing value after '--%1'.").arg(option);
     }
@@ -67,13 +109,16 @@ QString missingValue(const QCommandLineParser &parser)
 
 QString wrongUse(const QCommandLineParser &parser)
 {
-    QString missing = missingValue(parser);
-    if (!missing.isEmpty())
-        return missing;
+    QString problem = wrongNumberOfValues(parser);
+    if (!problem.isEmpty())
+        return problem;
     if (!parser.positionalArguments().isEmpty())
         return QStringLiteral("Unexpected argument '%1'.").arg(parser.positionalArguments().constFirst());
     if (parser.isSet(tourOption) && parser.isSet(userOption))
         return QStringLiteral("'--tour' and '--user' exclude each other.");
+    if (parser.isSet(languageOption) && !isKnownLanguage(parser.value(languageOption)))
+        return QStringLiteral("Unknown language '%1'; these are known: %2.")
+            .arg(parser.value(languageOption), languageList().join(QStringLiteral(", ")));
     return {};
 }
 
@@ -84,27 +129,22 @@ std::optional<StartOptions> StartOptions::parse(const QStringList &arguments, QS
     QCommandLineParser parser;
     addOptions(&parser);
     *error = parser.parse(arguments) ? wrongUse(parser) : parser.errorText();
-    if (!error->isEmpty())
+    if (!error->isEmpty()) {
+        *error += QStringLiteral(" 'kelvra_client --help' lists the options.");
         return std::nullopt;
+    }
 
     StartOptions options;
     options.help = parser.isSet(helpOption);
     options.version = parser.isSet(versionOption);
-    options.dataFolder = QDir::cleanPath(QDir().absoluteFilePath(parser.value(folderOption)));
+    if (!parser.value(folderOption).isEmpty())
+        options.dataFolder = QDir::cleanPath(QDir().absoluteFilePath(parser.value(folderOption)));
     options.user = parser.value(userOption);
     options.noPhone = parser.isSet(noPhoneOption);
     if (parser.isSet(tourOption))
         options.tourFolder = QDir().absoluteFilePath(parser.value(tourOption));
-    if (parser.isSet(languageOption)) {
-        bool isNumber = false;
-        const int id = parser.value(languageOption).toInt(&isNumber);
-        if (!isNumber || !SysLanguage::_instance().getLanguageNames().contains(id)) {
-            *error = QStringLiteral("Unknown language '%1'; these are known: %2.")
-                         .arg(parser.value(languageOption), languageList().join(QStringLiteral(", ")));
-            return std::nullopt;
-        }
-        options.language = kelvra_worker::Language(id);
-    }
+    if (parser.isSet(languageOption))
+        options.language = kelvra_worker::Language(parser.value(languageOption).toInt());
     return options;
 }
 
@@ -112,7 +152,7 @@ QString StartOptions::helpText()
 {
     QCommandLineParser parser;
     addOptions(&parser);
-    return parser.helpText();
+    return parser.helpText() + defaultFolderText() + exitCodes;
 }
 
 } // namespace kelvra_client

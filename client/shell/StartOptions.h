@@ -14,7 +14,7 @@ struct StartOptions
 {
     bool help = false;    ///< show helpText() and end
     bool version = false; ///< show the version and end
-    QString dataFolder;   ///< absolute; the platform's application-data folder unless another is named
+    QString dataFolder;   ///< absolute; the platform's application-data folder unless another is named; empty: none
     std::optional<kelvra_worker::Language> language; ///< for this run; without one the saved choice holds
     QString user;         ///< to be logged in with the password from standard input; empty: nobody
     bool noPhone = false; ///< the simulated phone does not open beside the login

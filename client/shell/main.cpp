@@ -1,7 +1,7 @@
 #include "client/shell/ClientShell.h"
 #include "client/shell/Console.h"
 #include "client/shell/DisplayWatch.h"
-#include "client/shell/PasswordInput.h"
+#include "client/shell/ExitCode.h"
 #include "client/shell/StartOptions.h"
 #include "client/shell/Tour.h"
 #include "client/shell/TourDriver.h"
@@ -13,8 +13,6 @@
 using namespace kelvra_client;
 
 namespace {
-
-constexpr int exitUsage = 2;
 
 void describeApplication()
 {
@@ -41,14 +39,14 @@ std::optional<int> readOptions(int argc, char *argv[], StartOptions *options)
     const std::optional<StartOptions> parsed = StartOptions::parse(QCoreApplication::arguments(), &error);
     if (!parsed) {
         Console::complain(error);
-        return exitUsage;
+        return ExitWrongUse;
     }
     *options = *parsed;
     if (!options->help && !options->version)
         return std::nullopt;
     Console::print(options->help ? StartOptions::helpText()
                                  : QStringLiteral("kelvra_client ") + QCoreApplication::applicationVersion());
-    return 0;
+    return ExitDone;
 }
 
 /** Nothing here is drawn with OpenGL, and on X11 loading it takes a third of the time until the login stands. */
@@ -57,18 +55,6 @@ void spareOpenGl()
     constexpr char variable[] = "QT_XCB_GL_INTEGRATION";
     if (!qEnvironmentVariableIsSet(variable))
         qputenv(variable, "none");
-}
-
-/** Before the data folder is claimed, which is not kept waiting for somebody to type. */
-bool readPassword(QString *password)
-{
-    QString error;
-    const std::optional<QString> given = PasswordInput::read(&error);
-    if (given)
-        *password = *given;
-    else
-        Console::complain(error);
-    return given.has_value();
 }
 
 } // namespace
@@ -84,9 +70,6 @@ int main(int argc, char *argv[])
         qputenv("QT_QPA_PLATFORM", "offscreen");
     if (!DisplayWatch::isDisplayNamed())
         return DisplayWatch::complain();
-    QString password;
-    if (!options.user.isEmpty() && !readPassword(&password))
-        return exitUsage;
 
     spareOpenGl();
     auto watch = std::make_unique<DisplayWatch>();
@@ -96,5 +79,5 @@ int main(int argc, char *argv[])
         return Tour(options.tourFolder).run();
     // Null unless this is a program that the tour has started to show it.
     const std::unique_ptr<TourDriver> driver = TourDriver::fromEnvironment();
-    return ClientShell().run(options, password);
+    return ClientShell().run(options);
 }
