@@ -240,6 +240,18 @@
         <source>The file %1 cannot be written; the client goes on without it.</source>
         <translation>Die Datei %1 kann nicht geschrieben werden; der Client arbeitet ohne sie weiter.</translation>
     </message>
+    <message>
+        <source>There are no fonts, so that no text can be shown. Install a font (on Debian the package fonts-dejavu-core).</source>
+        <translation>Es gibt keine Schriftarten, sodass kein Text angezeigt werden kann. Installieren Sie eine Schriftart (unter Debian das Paket fonts-dejavu-core).</translation>
+    </message>
+    <message>
+        <source>There is no default data folder: HOME has to be the full path of an existing folder, and XDG_DATA_HOME, where it is set, a full path. Correct them, or name a folder with --data-dir.</source>
+        <translation>Es gibt keinen voreingestellten Datenordner: HOME muss der vollständige Pfad eines vorhandenen Ordners sein und XDG_DATA_HOME, falls gesetzt, ein vollständiger Pfad. Berichtigen Sie das, oder nennen Sie mit --data-dir einen Ordner.</translation>
+    </message>
+    <message>
+        <source>A client is already running on the data folder %1 and has come to the front. Nobody was logged in and the password was not used: log in there, or quit that client and start again.</source>
+        <translation>Ein Client läuft bereits mit dem Datenordner %1 und ist in den Vordergrund gekommen. Niemand wurde angemeldet, und das Passwort wurde nicht verwendet: Melden Sie sich dort an, oder beenden Sie jenen Client und starten Sie erneut.</translation>
+    </message>
 </context>
 <context>
     <name>kelvra_client::LocalUsersWt</name>
@@ -642,24 +654,24 @@
 <context>
     <name>kelvra_client::SingleInstance</name>
     <message>
-        <source>The data folder %1 cannot be written to.</source>
-        <translation>In den Datenordner %1 kann nicht geschrieben werden.</translation>
+        <source>A client of the account %2 is running on the data folder %1. Have it quit there, or name another folder with --data-dir.</source>
+        <translation>Ein Client des Kontos %2 läuft mit dem Datenordner %1. Lassen Sie ihn dort beenden, oder nennen Sie mit --data-dir einen anderen Ordner.</translation>
     </message>
     <message>
-        <source>The client is already running on the data folder %1, but it does not answer.</source>
-        <translation>Der Client läuft bereits mit dem Datenordner %1, antwortet aber nicht.</translation>
+        <source>A client on the computer %2 is running on the data folder %1. Quit it there, or name another folder with --data-dir.</source>
+        <translation>Ein Client auf dem Computer %2 läuft mit dem Datenordner %1. Beenden Sie ihn dort, oder nennen Sie mit --data-dir einen anderen Ordner.</translation>
     </message>
     <message>
-        <source>The data folder %1 cannot be created.</source>
-        <translation>Der Datenordner %1 kann nicht angelegt werden.</translation>
+        <source>The client is already running on the data folder %1 (process %2), but cannot be brought to the front, because another program has taken its name %3. Switch to the client&apos;s window, and end that program.</source>
+        <translation>Der Client läuft bereits mit dem Datenordner %1 (Prozess %2), kann aber nicht in den Vordergrund geholt werden, weil ein anderes Programm seinen Namen %3 belegt. Wechseln Sie zum Fenster des Clients, und beenden Sie das andere Programm.</translation>
     </message>
     <message>
-        <source>The data folder %1 is not a folder.</source>
-        <translation>Der Datenordner %1 ist kein Ordner.</translation>
+        <source>The client is already running on the data folder %1 (process %2), but it does not answer. Switch to its window; where it is frozen, end that process and start the client again.</source>
+        <translation>Der Client läuft bereits mit dem Datenordner %1 (Prozess %2), antwortet aber nicht. Wechseln Sie zu seinem Fenster; reagiert es nicht, beenden Sie diesen Prozess und starten Sie den Client erneut.</translation>
     </message>
     <message>
-        <source>The data folder %1 cannot be read.</source>
-        <translation>Der Datenordner %1 kann nicht gelesen werden.</translation>
+        <source>A second start cannot bring this client to the front, because another program has taken its name %1. End that program and start the client again.</source>
+        <translation>Ein zweiter Start kann diesen Client nicht in den Vordergrund holen, weil ein anderes Programm seinen Namen %1 belegt. Beenden Sie dieses Programm und starten Sie den Client erneut.</translation>
     </message>
 </context>
 <context>
@@ -704,15 +716,34 @@
     </message>
 </context>
 <context>
+    <name>kelvra_data::OwnerFolder</name>
+    <message>
+        <source>The data folder %1 cannot be created. Name a folder that you may write to with --data-dir.</source>
+        <translation>Der Datenordner %1 kann nicht angelegt werden. Nennen Sie mit --data-dir einen Ordner, in den Sie schreiben dürfen.</translation>
+    </message>
+    <message>
+        <source>The data folder %1 is not a folder. Name another one with --data-dir.</source>
+        <translation>Der Datenordner %1 ist kein Ordner. Nennen Sie mit --data-dir einen anderen.</translation>
+    </message>
+    <message>
+        <source>The data folder %1 belongs to the account %2. Name a folder of your own with --data-dir, or start the client as %2.</source>
+        <translation>Der Datenordner %1 gehört dem Konto %2. Nennen Sie mit --data-dir einen eigenen Ordner, oder starten Sie den Client als %2.</translation>
+    </message>
+    <message>
+        <source>The data folder %1 cannot be read. Give your account its rights back, or name another folder with --data-dir.</source>
+        <translation>Der Datenordner %1 kann nicht gelesen werden. Geben Sie Ihrem Konto die Rechte zurück, oder nennen Sie mit --data-dir einen anderen Ordner.</translation>
+    </message>
+    <message>
+        <source>Other accounts can write to the data folder %1, so the client does not trust what is in it. Make sure that its files are yours and close it (%2), or name another folder with --data-dir.</source>
+        <translation>Andere Konten können in den Datenordner %1 schreiben; der Client vertraut deshalb seinem Inhalt nicht. Vergewissern Sie sich, dass die Dateien von Ihnen sind, und schließen Sie ihn (%2), oder nennen Sie mit --data-dir einen anderen Ordner.</translation>
+    </message>
+    <message>
+        <source>The data folder %1 cannot be written to. Give your account its rights back or make room on the disk, or name another folder with --data-dir.</source>
+        <translation>In den Datenordner %1 kann nicht geschrieben werden. Geben Sie Ihrem Konto die Rechte zurück, schaffen Sie Platz auf dem Datenträger, oder nennen Sie mit --data-dir einen anderen Ordner.</translation>
+    </message>
+</context>
+<context>
     <name>kelvra_data::Store</name>
-    <message>
-        <source>The data folder %1 cannot be created.</source>
-        <translation>Der Datenordner %1 kann nicht angelegt werden.</translation>
-    </message>
-    <message>
-        <source>The data folder %1 cannot be written to.</source>
-        <translation>In den Datenordner %1 kann nicht geschrieben werden.</translation>
-    </message>
     <message>
         <source>The database %1 cannot be opened.</source>
         <translation>Die Datenbank %1 kann nicht geöffnet werden.</translation>
@@ -756,6 +787,10 @@
     <message>
         <source>The database cannot be written to.</source>
         <translation>In die Datenbank kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>The SQLite driver of Qt is missing. Install the client anew, or this driver alone (on Debian the package libqt5sql5-sqlite).</source>
+        <translation>Der SQLite-Treiber von Qt fehlt. Installieren Sie den Client neu oder nur diesen Treiber (unter Debian das Paket libqt5sql5-sqlite).</translation>
     </message>
 </context>
 <context>

@@ -240,6 +240,18 @@
         <source>The file %1 cannot be written; the client goes on without it.</source>
         <translation>No se puede escribir el archivo %1; el cliente continúa sin él.</translation>
     </message>
+    <message>
+        <source>There are no fonts, so that no text can be shown. Install a font (on Debian the package fonts-dejavu-core).</source>
+        <translation>No hay fuentes, por lo que no se puede mostrar ningún texto. Instale una fuente (en Debian, el paquete fonts-dejavu-core).</translation>
+    </message>
+    <message>
+        <source>There is no default data folder: HOME has to be the full path of an existing folder, and XDG_DATA_HOME, where it is set, a full path. Correct them, or name a folder with --data-dir.</source>
+        <translation>No hay carpeta de datos predeterminada: HOME debe ser la ruta completa de una carpeta existente y XDG_DATA_HOME, si está definida, una ruta completa. Corríjalas o indique una carpeta con --data-dir.</translation>
+    </message>
+    <message>
+        <source>A client is already running on the data folder %1 and has come to the front. Nobody was logged in and the password was not used: log in there, or quit that client and start again.</source>
+        <translation>Ya se está ejecutando un cliente con la carpeta de datos %1 y ha pasado al frente. No se ha iniciado la sesión de nadie y no se ha utilizado la contraseña: inicie sesión allí, o cierre ese cliente y vuelva a empezar.</translation>
+    </message>
 </context>
 <context>
     <name>kelvra_client::LocalUsersWt</name>
@@ -642,24 +654,24 @@
 <context>
     <name>kelvra_client::SingleInstance</name>
     <message>
-        <source>The data folder %1 cannot be written to.</source>
-        <translation>No se puede escribir en la carpeta de datos %1.</translation>
+        <source>A client of the account %2 is running on the data folder %1. Have it quit there, or name another folder with --data-dir.</source>
+        <translation>Un cliente de la cuenta %2 se está ejecutando con la carpeta de datos %1. Pida que lo cierren allí o indique otra carpeta con --data-dir.</translation>
     </message>
     <message>
-        <source>The client is already running on the data folder %1, but it does not answer.</source>
-        <translation>El cliente ya se está ejecutando con la carpeta de datos %1, pero no responde.</translation>
+        <source>A client on the computer %2 is running on the data folder %1. Quit it there, or name another folder with --data-dir.</source>
+        <translation>Un cliente del equipo %2 se está ejecutando con la carpeta de datos %1. Ciérrelo allí o indique otra carpeta con --data-dir.</translation>
     </message>
     <message>
-        <source>The data folder %1 cannot be created.</source>
-        <translation>No se puede crear la carpeta de datos %1.</translation>
+        <source>The client is already running on the data folder %1 (process %2), but cannot be brought to the front, because another program has taken its name %3. Switch to the client&apos;s window, and end that program.</source>
+        <translation>El cliente ya se está ejecutando con la carpeta de datos %1 (proceso %2), pero no se puede traer al frente porque otro programa ocupa su nombre %3. Cambie a la ventana del cliente y cierre ese programa.</translation>
     </message>
     <message>
-        <source>The data folder %1 is not a folder.</source>
-        <translation>La carpeta de datos %1 no es una carpeta.</translation>
+        <source>The client is already running on the data folder %1 (process %2), but it does not answer. Switch to its window; where it is frozen, end that process and start the client again.</source>
+        <translation>El cliente ya se está ejecutando con la carpeta de datos %1 (proceso %2), pero no responde. Cambie a su ventana; si está bloqueada, finalice ese proceso y vuelva a iniciar el cliente.</translation>
     </message>
     <message>
-        <source>The data folder %1 cannot be read.</source>
-        <translation>No se puede leer la carpeta de datos %1.</translation>
+        <source>A second start cannot bring this client to the front, because another program has taken its name %1. End that program and start the client again.</source>
+        <translation>Un segundo inicio no puede traer este cliente al frente porque otro programa ocupa su nombre %1. Cierre ese programa y vuelva a iniciar el cliente.</translation>
     </message>
 </context>
 <context>
@@ -704,15 +716,34 @@
     </message>
 </context>
 <context>
+    <name>kelvra_data::OwnerFolder</name>
+    <message>
+        <source>The data folder %1 cannot be created. Name a folder that you may write to with --data-dir.</source>
+        <translation>No se puede crear la carpeta de datos %1. Indique con --data-dir una carpeta en la que pueda escribir.</translation>
+    </message>
+    <message>
+        <source>The data folder %1 is not a folder. Name another one with --data-dir.</source>
+        <translation>La carpeta de datos %1 no es una carpeta. Indique otra con --data-dir.</translation>
+    </message>
+    <message>
+        <source>The data folder %1 belongs to the account %2. Name a folder of your own with --data-dir, or start the client as %2.</source>
+        <translation>La carpeta de datos %1 pertenece a la cuenta %2. Indique una carpeta propia con --data-dir o inicie el cliente como %2.</translation>
+    </message>
+    <message>
+        <source>The data folder %1 cannot be read. Give your account its rights back, or name another folder with --data-dir.</source>
+        <translation>No se puede leer la carpeta de datos %1. Devuelva los permisos a su cuenta o indique otra carpeta con --data-dir.</translation>
+    </message>
+    <message>
+        <source>Other accounts can write to the data folder %1, so the client does not trust what is in it. Make sure that its files are yours and close it (%2), or name another folder with --data-dir.</source>
+        <translation>Otras cuentas pueden escribir en la carpeta de datos %1, por lo que el cliente no confía en su contenido. Compruebe que los archivos son suyos y ciérrela (%2), o indique otra carpeta con --data-dir.</translation>
+    </message>
+    <message>
+        <source>The data folder %1 cannot be written to. Give your account its rights back or make room on the disk, or name another folder with --data-dir.</source>
+        <translation>No se puede escribir en la carpeta de datos %1. Devuelva los permisos a su cuenta, libere espacio en el disco o indique otra carpeta con --data-dir.</translation>
+    </message>
+</context>
+<context>
     <name>kelvra_data::Store</name>
-    <message>
-        <source>The data folder %1 cannot be created.</source>
-        <translation>No se puede crear la carpeta de datos %1.</translation>
-    </message>
-    <message>
-        <source>The data folder %1 cannot be written to.</source>
-        <translation>No se puede escribir en la carpeta de datos %1.</translation>
-    </message>
     <message>
         <source>The database %1 cannot be opened.</source>
         <translation>No se puede abrir la base de datos %1.</translation>
@@ -756,6 +787,10 @@
     <message>
         <source>The database cannot be written to.</source>
         <translation>No se puede escribir en la base de datos.</translation>
+    </message>
+    <message>
+        <source>The SQLite driver of Qt is missing. Install the client anew, or this driver alone (on Debian the package libqt5sql5-sqlite).</source>
+        <translation>Falta el controlador SQLite de Qt. Vuelva a instalar el cliente o solo este controlador (en Debian, el paquete libqt5sql5-sqlite).</translation>
     </message>
 </context>
 <context>

@@ -240,6 +240,18 @@
         <source>The file %1 cannot be written; the client goes on without it.</source>
         <translation>Impossible d’écrire le fichier %1&#xa0;; le client continue sans lui.</translation>
     </message>
+    <message>
+        <source>There are no fonts, so that no text can be shown. Install a font (on Debian the package fonts-dejavu-core).</source>
+        <translation>Il n’y a aucune police, si bien qu’aucun texte ne peut être affiché. Installez une police (sous Debian, le paquet fonts-dejavu-core).</translation>
+    </message>
+    <message>
+        <source>There is no default data folder: HOME has to be the full path of an existing folder, and XDG_DATA_HOME, where it is set, a full path. Correct them, or name a folder with --data-dir.</source>
+        <translation>Il n’y a pas de dossier de données par défaut&#xa0;: HOME doit être le chemin complet d’un dossier existant et XDG_DATA_HOME, si elle est définie, un chemin complet. Corrigez-les, ou indiquez un dossier avec --data-dir.</translation>
+    </message>
+    <message>
+        <source>A client is already running on the data folder %1 and has come to the front. Nobody was logged in and the password was not used: log in there, or quit that client and start again.</source>
+        <translation>Un client fonctionne déjà avec le dossier de données %1 et est passé au premier plan. Personne n’a été connecté et le mot de passe n’a pas été utilisé&#xa0;: connectez-vous là-bas, ou quittez ce client et recommencez.</translation>
+    </message>
 </context>
 <context>
     <name>kelvra_client::LocalUsersWt</name>
@@ -642,24 +654,24 @@
 <context>
     <name>kelvra_client::SingleInstance</name>
     <message>
-        <source>The data folder %1 cannot be written to.</source>
-        <translation>Impossible d’écrire dans le dossier de données %1.</translation>
+        <source>A client of the account %2 is running on the data folder %1. Have it quit there, or name another folder with --data-dir.</source>
+        <translation>Un client du compte %2 fonctionne avec le dossier de données %1. Faites-le quitter là-bas, ou indiquez un autre dossier avec --data-dir.</translation>
     </message>
     <message>
-        <source>The client is already running on the data folder %1, but it does not answer.</source>
-        <translation>Le client fonctionne déjà avec le dossier de données %1, mais il ne répond pas.</translation>
+        <source>A client on the computer %2 is running on the data folder %1. Quit it there, or name another folder with --data-dir.</source>
+        <translation>Un client de l’ordinateur %2 fonctionne avec le dossier de données %1. Quittez-le là-bas, ou indiquez un autre dossier avec --data-dir.</translation>
     </message>
     <message>
-        <source>The data folder %1 cannot be created.</source>
-        <translation>Impossible de créer le dossier de données %1.</translation>
+        <source>The client is already running on the data folder %1 (process %2), but cannot be brought to the front, because another program has taken its name %3. Switch to the client&apos;s window, and end that program.</source>
+        <translation>Le client fonctionne déjà avec le dossier de données %1 (processus %2), mais il ne peut pas être amené au premier plan, car un autre programme a pris son nom %3. Passez à la fenêtre du client et arrêtez ce programme.</translation>
     </message>
     <message>
-        <source>The data folder %1 is not a folder.</source>
-        <translation>Le dossier de données %1 n’est pas un dossier.</translation>
+        <source>The client is already running on the data folder %1 (process %2), but it does not answer. Switch to its window; where it is frozen, end that process and start the client again.</source>
+        <translation>Le client fonctionne déjà avec le dossier de données %1 (processus %2), mais il ne répond pas. Passez à sa fenêtre&#xa0;; si elle est figée, arrêtez ce processus et redémarrez le client.</translation>
     </message>
     <message>
-        <source>The data folder %1 cannot be read.</source>
-        <translation>Impossible de lire le dossier de données %1.</translation>
+        <source>A second start cannot bring this client to the front, because another program has taken its name %1. End that program and start the client again.</source>
+        <translation>Un second démarrage ne peut pas amener ce client au premier plan, car un autre programme a pris son nom %1. Arrêtez ce programme et redémarrez le client.</translation>
     </message>
 </context>
 <context>
@@ -704,15 +716,34 @@
     </message>
 </context>
 <context>
+    <name>kelvra_data::OwnerFolder</name>
+    <message>
+        <source>The data folder %1 cannot be created. Name a folder that you may write to with --data-dir.</source>
+        <translation>Impossible de créer le dossier de données %1. Indiquez avec --data-dir un dossier dans lequel vous pouvez écrire.</translation>
+    </message>
+    <message>
+        <source>The data folder %1 is not a folder. Name another one with --data-dir.</source>
+        <translation>Le dossier de données %1 n’est pas un dossier. Indiquez-en un autre avec --data-dir.</translation>
+    </message>
+    <message>
+        <source>The data folder %1 belongs to the account %2. Name a folder of your own with --data-dir, or start the client as %2.</source>
+        <translation>Le dossier de données %1 appartient au compte %2. Indiquez avec --data-dir un dossier à vous, ou démarrez le client en tant que %2.</translation>
+    </message>
+    <message>
+        <source>The data folder %1 cannot be read. Give your account its rights back, or name another folder with --data-dir.</source>
+        <translation>Impossible de lire le dossier de données %1. Rendez ses droits à votre compte, ou indiquez un autre dossier avec --data-dir.</translation>
+    </message>
+    <message>
+        <source>Other accounts can write to the data folder %1, so the client does not trust what is in it. Make sure that its files are yours and close it (%2), or name another folder with --data-dir.</source>
+        <translation>D’autres comptes peuvent écrire dans le dossier de données %1&#xa0;; le client ne se fie donc pas à son contenu. Assurez-vous que les fichiers sont les vôtres et fermez-le (%2), ou indiquez un autre dossier avec --data-dir.</translation>
+    </message>
+    <message>
+        <source>The data folder %1 cannot be written to. Give your account its rights back or make room on the disk, or name another folder with --data-dir.</source>
+        <translation>Impossible d’écrire dans le dossier de données %1. Rendez ses droits à votre compte, libérez de la place sur le disque, ou indiquez un autre dossier avec --data-dir.</translation>
+    </message>
+</context>
+<context>
     <name>kelvra_data::Store</name>
-    <message>
-        <source>The data folder %1 cannot be created.</source>
-        <translation>Impossible de créer le dossier de données %1.</translation>
-    </message>
-    <message>
-        <source>The data folder %1 cannot be written to.</source>
-        <translation>Impossible d’écrire dans le dossier de données %1.</translation>
-    </message>
     <message>
         <source>The database %1 cannot be opened.</source>
         <translation>Impossible d’ouvrir la base de données %1.</translation>
@@ -756,6 +787,10 @@
     <message>
         <source>The database cannot be written to.</source>
         <translation>Impossible d’écrire dans la base de données.</translation>
+    </message>
+    <message>
+        <source>The SQLite driver of Qt is missing. Install the client anew, or this driver alone (on Debian the package libqt5sql5-sqlite).</source>
+        <translation>Le pilote SQLite de Qt est introuvable. Réinstallez le client, ou ce pilote seul (sous Debian, le paquet libqt5sql5-sqlite).</translation>
     </message>
 </context>
 <context>

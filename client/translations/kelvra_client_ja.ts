@@ -240,6 +240,18 @@
         <source>The file %1 cannot be written; the client goes on without it.</source>
         <translation>ファイル %1 に書き込めません。このファイルなしで続行します。</translation>
     </message>
+    <message>
+        <source>There are no fonts, so that no text can be shown. Install a font (on Debian the package fonts-dejavu-core).</source>
+        <translation>フォントがないため、文字を表示できません。フォントをインストールしてください（Debian ではパッケージ fonts-dejavu-core）。</translation>
+    </message>
+    <message>
+        <source>There is no default data folder: HOME has to be the full path of an existing folder, and XDG_DATA_HOME, where it is set, a full path. Correct them, or name a folder with --data-dir.</source>
+        <translation>既定のデータフォルダーがありません。HOME は既存のフォルダーの完全なパス、XDG_DATA_HOME は設定されている場合は完全なパスでなければなりません。修正するか、--data-dir でフォルダーを指定してください。</translation>
+    </message>
+    <message>
+        <source>A client is already running on the data folder %1 and has come to the front. Nobody was logged in and the password was not used: log in there, or quit that client and start again.</source>
+        <translation>クライアントはデータフォルダー %1 で既に実行中で、前面に表示されました。誰もログインしておらず、パスワードは使用されていません。そちらでログインするか、そのクライアントを終了してから起動し直してください。</translation>
+    </message>
 </context>
 <context>
     <name>kelvra_client::LocalUsersWt</name>
@@ -642,24 +654,24 @@
 <context>
     <name>kelvra_client::SingleInstance</name>
     <message>
-        <source>The data folder %1 cannot be written to.</source>
-        <translation>データフォルダー %1 に書き込めません。</translation>
+        <source>A client of the account %2 is running on the data folder %1. Have it quit there, or name another folder with --data-dir.</source>
+        <translation>アカウント %2 のクライアントがデータフォルダー %1 で実行中です。そちらで終了してもらうか、--data-dir で別のフォルダーを指定してください。</translation>
     </message>
     <message>
-        <source>The client is already running on the data folder %1, but it does not answer.</source>
-        <translation>クライアントはデータフォルダー %1 で既に実行中ですが、応答がありません。</translation>
+        <source>A client on the computer %2 is running on the data folder %1. Quit it there, or name another folder with --data-dir.</source>
+        <translation>コンピューター %2 のクライアントがデータフォルダー %1 で実行中です。そちらで終了するか、--data-dir で別のフォルダーを指定してください。</translation>
     </message>
     <message>
-        <source>The data folder %1 cannot be created.</source>
-        <translation>データフォルダー %1 を作成できません。</translation>
+        <source>The client is already running on the data folder %1 (process %2), but cannot be brought to the front, because another program has taken its name %3. Switch to the client&apos;s window, and end that program.</source>
+        <translation>クライアントはデータフォルダー %1 で既に実行中ですが（プロセス %2）、別のプログラムが名前 %3 を使用しているため、前面に表示できません。クライアントのウィンドウに切り替え、そのプログラムを終了してください。</translation>
     </message>
     <message>
-        <source>The data folder %1 is not a folder.</source>
-        <translation>データフォルダー %1 はフォルダーではありません。</translation>
+        <source>The client is already running on the data folder %1 (process %2), but it does not answer. Switch to its window; where it is frozen, end that process and start the client again.</source>
+        <translation>クライアントはデータフォルダー %1 で既に実行中ですが（プロセス %2）、応答がありません。そのウィンドウに切り替えてください。動かない場合は、そのプロセスを終了してクライアントを起動し直してください。</translation>
     </message>
     <message>
-        <source>The data folder %1 cannot be read.</source>
-        <translation>データフォルダー %1 を読み込めません。</translation>
+        <source>A second start cannot bring this client to the front, because another program has taken its name %1. End that program and start the client again.</source>
+        <translation>別のプログラムが名前 %1 を使用しているため、再度起動してもこのクライアントを前面に表示できません。そのプログラムを終了し、クライアントを起動し直してください。</translation>
     </message>
 </context>
 <context>
@@ -704,15 +716,34 @@
     </message>
 </context>
 <context>
+    <name>kelvra_data::OwnerFolder</name>
+    <message>
+        <source>The data folder %1 cannot be created. Name a folder that you may write to with --data-dir.</source>
+        <translation>データフォルダー %1 を作成できません。書き込みできるフォルダーを --data-dir で指定してください。</translation>
+    </message>
+    <message>
+        <source>The data folder %1 is not a folder. Name another one with --data-dir.</source>
+        <translation>データフォルダー %1 はフォルダーではありません。--data-dir で別のフォルダーを指定してください。</translation>
+    </message>
+    <message>
+        <source>The data folder %1 belongs to the account %2. Name a folder of your own with --data-dir, or start the client as %2.</source>
+        <translation>データフォルダー %1 はアカウント %2 のものです。--data-dir で自分のフォルダーを指定するか、%2 としてクライアントを起動してください。</translation>
+    </message>
+    <message>
+        <source>The data folder %1 cannot be read. Give your account its rights back, or name another folder with --data-dir.</source>
+        <translation>データフォルダー %1 を読み込めません。アカウントに権限を戻すか、--data-dir で別のフォルダーを指定してください。</translation>
+    </message>
+    <message>
+        <source>Other accounts can write to the data folder %1, so the client does not trust what is in it. Make sure that its files are yours and close it (%2), or name another folder with --data-dir.</source>
+        <translation>ほかのアカウントがデータフォルダー %1 に書き込めるため、その内容は信頼できません。ファイルが自分のものであることを確認して閉じるか（%2）、--data-dir で別のフォルダーを指定してください。</translation>
+    </message>
+    <message>
+        <source>The data folder %1 cannot be written to. Give your account its rights back or make room on the disk, or name another folder with --data-dir.</source>
+        <translation>データフォルダー %1 に書き込めません。アカウントに権限を戻すか、ディスクの空きを増やすか、--data-dir で別のフォルダーを指定してください。</translation>
+    </message>
+</context>
+<context>
     <name>kelvra_data::Store</name>
-    <message>
-        <source>The data folder %1 cannot be created.</source>
-        <translation>データフォルダー %1 を作成できません。</translation>
-    </message>
-    <message>
-        <source>The data folder %1 cannot be written to.</source>
-        <translation>データフォルダー %1 に書き込めません。</translation>
-    </message>
     <message>
         <source>The database %1 cannot be opened.</source>
         <translation>データベース %1 を開けません。</translation>
@@ -756,6 +787,10 @@
     <message>
         <source>The database cannot be written to.</source>
         <translation>データベースに書き込めません。</translation>
+    </message>
+    <message>
+        <source>The SQLite driver of Qt is missing. Install the client anew, or this driver alone (on Debian the package libqt5sql5-sqlite).</source>
+        <translation>Qt の SQLite ドライバーがありません。クライアントを再インストールするか、このドライバーだけをインストールしてください（Debian ではパッケージ libqt5sql5-sqlite）。</translation>
     </message>
 </context>
 <context>

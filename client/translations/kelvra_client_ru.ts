@@ -240,6 +240,18 @@
         <source>The file %1 cannot be written; the client goes on without it.</source>
         <translation>Не удаётся записать файл %1; клиент продолжит работу без него.</translation>
     </message>
+    <message>
+        <source>There are no fonts, so that no text can be shown. Install a font (on Debian the package fonts-dejavu-core).</source>
+        <translation>Нет ни одного шрифта, поэтому текст показать нельзя. Установите шрифт (в Debian — пакет fonts-dejavu-core).</translation>
+    </message>
+    <message>
+        <source>There is no default data folder: HOME has to be the full path of an existing folder, and XDG_DATA_HOME, where it is set, a full path. Correct them, or name a folder with --data-dir.</source>
+        <translation>Папка данных по умолчанию отсутствует: HOME должна содержать полный путь к существующей папке, а XDG_DATA_HOME, если задана, — полный путь. Исправьте их или укажите папку с помощью --data-dir.</translation>
+    </message>
+    <message>
+        <source>A client is already running on the data folder %1 and has come to the front. Nobody was logged in and the password was not used: log in there, or quit that client and start again.</source>
+        <translation>Клиент уже запущен с папкой данных %1 и выведен на передний план. Вход не выполнен, пароль не использован: войдите там или закройте тот клиент и запустите снова.</translation>
+    </message>
 </context>
 <context>
     <name>kelvra_client::LocalUsersWt</name>
@@ -642,24 +654,24 @@
 <context>
     <name>kelvra_client::SingleInstance</name>
     <message>
-        <source>The data folder %1 cannot be written to.</source>
-        <translation>Запись в папку данных %1 невозможна.</translation>
+        <source>A client of the account %2 is running on the data folder %1. Have it quit there, or name another folder with --data-dir.</source>
+        <translation>Клиент учётной записи %2 работает с папкой данных %1. Попросите закрыть его там или укажите другую папку с помощью --data-dir.</translation>
     </message>
     <message>
-        <source>The client is already running on the data folder %1, but it does not answer.</source>
-        <translation>Клиент уже запущен с папкой данных %1, но не отвечает.</translation>
+        <source>A client on the computer %2 is running on the data folder %1. Quit it there, or name another folder with --data-dir.</source>
+        <translation>Клиент на компьютере %2 работает с папкой данных %1. Закройте его там или укажите другую папку с помощью --data-dir.</translation>
     </message>
     <message>
-        <source>The data folder %1 cannot be created.</source>
-        <translation>Не удаётся создать папку данных %1.</translation>
+        <source>The client is already running on the data folder %1 (process %2), but cannot be brought to the front, because another program has taken its name %3. Switch to the client&apos;s window, and end that program.</source>
+        <translation>Клиент уже запущен с папкой данных %1 (процесс %2), но его нельзя вывести на передний план: его имя %3 занято другой программой. Перейдите в окно клиента и завершите эту программу.</translation>
     </message>
     <message>
-        <source>The data folder %1 is not a folder.</source>
-        <translation>Указанный путь к папке данных %1 не является папкой.</translation>
+        <source>The client is already running on the data folder %1 (process %2), but it does not answer. Switch to its window; where it is frozen, end that process and start the client again.</source>
+        <translation>Клиент уже запущен с папкой данных %1 (процесс %2), но не отвечает. Перейдите в его окно; если оно зависло, завершите этот процесс и запустите клиент снова.</translation>
     </message>
     <message>
-        <source>The data folder %1 cannot be read.</source>
-        <translation>Не удаётся прочитать папку данных %1.</translation>
+        <source>A second start cannot bring this client to the front, because another program has taken its name %1. End that program and start the client again.</source>
+        <translation>Повторный запуск не сможет вывести этот клиент на передний план: его имя %1 занято другой программой. Завершите эту программу и запустите клиент снова.</translation>
     </message>
 </context>
 <context>
@@ -704,15 +716,34 @@
     </message>
 </context>
 <context>
+    <name>kelvra_data::OwnerFolder</name>
+    <message>
+        <source>The data folder %1 cannot be created. Name a folder that you may write to with --data-dir.</source>
+        <translation>Не удаётся создать папку данных %1. Укажите с помощью --data-dir папку, в которую вам разрешена запись.</translation>
+    </message>
+    <message>
+        <source>The data folder %1 is not a folder. Name another one with --data-dir.</source>
+        <translation>Указанный путь к папке данных %1 не является папкой. Укажите другую с помощью --data-dir.</translation>
+    </message>
+    <message>
+        <source>The data folder %1 belongs to the account %2. Name a folder of your own with --data-dir, or start the client as %2.</source>
+        <translation>Папка данных %1 принадлежит учётной записи %2. Укажите собственную папку с помощью --data-dir или запустите клиент от имени %2.</translation>
+    </message>
+    <message>
+        <source>The data folder %1 cannot be read. Give your account its rights back, or name another folder with --data-dir.</source>
+        <translation>Не удаётся прочитать папку данных %1. Верните права своей учётной записи или укажите другую папку с помощью --data-dir.</translation>
+    </message>
+    <message>
+        <source>Other accounts can write to the data folder %1, so the client does not trust what is in it. Make sure that its files are yours and close it (%2), or name another folder with --data-dir.</source>
+        <translation>Другие учётные записи могут записывать в папку данных %1, поэтому клиент не доверяет её содержимому. Убедитесь, что файлы ваши, и закройте её (%2) или укажите другую папку с помощью --data-dir.</translation>
+    </message>
+    <message>
+        <source>The data folder %1 cannot be written to. Give your account its rights back or make room on the disk, or name another folder with --data-dir.</source>
+        <translation>Запись в папку данных %1 невозможна. Верните права своей учётной записи, освободите место на диске или укажите другую папку с помощью --data-dir.</translation>
+    </message>
+</context>
+<context>
     <name>kelvra_data::Store</name>
-    <message>
-        <source>The data folder %1 cannot be created.</source>
-        <translation>Не удаётся создать папку данных %1.</translation>
-    </message>
-    <message>
-        <source>The data folder %1 cannot be written to.</source>
-        <translation>Запись в папку данных %1 невозможна.</translation>
-    </message>
     <message>
         <source>The database %1 cannot be opened.</source>
         <translation>Не удаётся открыть базу данных %1.</translation>
@@ -756,6 +787,10 @@
     <message>
         <source>The database cannot be written to.</source>
         <translation>Запись в базу данных невозможна.</translation>
+    </message>
+    <message>
+        <source>The SQLite driver of Qt is missing. Install the client anew, or this driver alone (on Debian the package libqt5sql5-sqlite).</source>
+        <translation>Отсутствует драйвер SQLite для Qt. Переустановите клиент или только этот драйвер (в Debian — пакет libqt5sql5-sqlite).</translation>
     </message>
 </context>
 <context>

@@ -240,6 +240,18 @@
         <source>The file %1 cannot be written; the client goes on without it.</source>
         <translation>文件 %1 无法写入；客户端将在没有该文件的情况下继续运行。</translation>
     </message>
+    <message>
+        <source>There are no fonts, so that no text can be shown. Install a font (on Debian the package fonts-dejavu-core).</source>
+        <translation>没有任何字体，因此无法显示文字。请安装字体（Debian 中为软件包 fonts-dejavu-core）。</translation>
+    </message>
+    <message>
+        <source>There is no default data folder: HOME has to be the full path of an existing folder, and XDG_DATA_HOME, where it is set, a full path. Correct them, or name a folder with --data-dir.</source>
+        <translation>没有默认的数据文件夹：HOME 必须是现有文件夹的完整路径，XDG_DATA_HOME 如已设置也必须是完整路径。请更正，或用 --data-dir 指定文件夹。</translation>
+    </message>
+    <message>
+        <source>A client is already running on the data folder %1 and has come to the front. Nobody was logged in and the password was not used: log in there, or quit that client and start again.</source>
+        <translation>已有客户端在使用数据文件夹 %1，并已置于前台。没有登录任何用户，密码也未被使用：请在那里登录，或退出该客户端后重新启动。</translation>
+    </message>
 </context>
 <context>
     <name>kelvra_client::LocalUsersWt</name>
@@ -642,24 +654,24 @@
 <context>
     <name>kelvra_client::SingleInstance</name>
     <message>
-        <source>The data folder %1 cannot be written to.</source>
-        <translation>数据文件夹 %1 不可写。</translation>
+        <source>A client of the account %2 is running on the data folder %1. Have it quit there, or name another folder with --data-dir.</source>
+        <translation>账户 %2 的客户端正在使用数据文件夹 %1。请让其在那里退出，或用 --data-dir 指定另一个文件夹。</translation>
     </message>
     <message>
-        <source>The client is already running on the data folder %1, but it does not answer.</source>
-        <translation>客户端已在使用数据文件夹 %1，但没有响应。</translation>
+        <source>A client on the computer %2 is running on the data folder %1. Quit it there, or name another folder with --data-dir.</source>
+        <translation>计算机 %2 上的客户端正在使用数据文件夹 %1。请在那里退出，或用 --data-dir 指定另一个文件夹。</translation>
     </message>
     <message>
-        <source>The data folder %1 cannot be created.</source>
-        <translation>无法创建数据文件夹 %1。</translation>
+        <source>The client is already running on the data folder %1 (process %2), but cannot be brought to the front, because another program has taken its name %3. Switch to the client&apos;s window, and end that program.</source>
+        <translation>客户端已在使用数据文件夹 %1（进程 %2），但无法将其置于前台，因为其他程序占用了它的名称 %3。请切换到客户端的窗口，并结束该程序。</translation>
     </message>
     <message>
-        <source>The data folder %1 is not a folder.</source>
-        <translation>数据文件夹 %1 不是文件夹。</translation>
+        <source>The client is already running on the data folder %1 (process %2), but it does not answer. Switch to its window; where it is frozen, end that process and start the client again.</source>
+        <translation>客户端已在使用数据文件夹 %1（进程 %2），但没有响应。请切换到它的窗口；如果窗口没有反应，请结束该进程并重新启动客户端。</translation>
     </message>
     <message>
-        <source>The data folder %1 cannot be read.</source>
-        <translation>数据文件夹 %1 无法读取。</translation>
+        <source>A second start cannot bring this client to the front, because another program has taken its name %1. End that program and start the client again.</source>
+        <translation>再次启动时无法将此客户端置于前台，因为其他程序占用了它的名称 %1。请结束该程序并重新启动客户端。</translation>
     </message>
 </context>
 <context>
@@ -704,15 +716,34 @@
     </message>
 </context>
 <context>
+    <name>kelvra_data::OwnerFolder</name>
+    <message>
+        <source>The data folder %1 cannot be created. Name a folder that you may write to with --data-dir.</source>
+        <translation>无法创建数据文件夹 %1。请用 --data-dir 指定一个您可以写入的文件夹。</translation>
+    </message>
+    <message>
+        <source>The data folder %1 is not a folder. Name another one with --data-dir.</source>
+        <translation>数据文件夹 %1 不是文件夹。请用 --data-dir 指定另一个。</translation>
+    </message>
+    <message>
+        <source>The data folder %1 belongs to the account %2. Name a folder of your own with --data-dir, or start the client as %2.</source>
+        <translation>数据文件夹 %1 属于账户 %2。请用 --data-dir 指定您自己的文件夹，或以 %2 的身份启动客户端。</translation>
+    </message>
+    <message>
+        <source>The data folder %1 cannot be read. Give your account its rights back, or name another folder with --data-dir.</source>
+        <translation>数据文件夹 %1 无法读取。请恢复您账户的权限，或用 --data-dir 指定另一个文件夹。</translation>
+    </message>
+    <message>
+        <source>Other accounts can write to the data folder %1, so the client does not trust what is in it. Make sure that its files are yours and close it (%2), or name another folder with --data-dir.</source>
+        <translation>其他账户可以写入数据文件夹 %1，因此客户端不信任其中的内容。请确认文件是您自己的并关闭其写入权限（%2），或用 --data-dir 指定另一个文件夹。</translation>
+    </message>
+    <message>
+        <source>The data folder %1 cannot be written to. Give your account its rights back or make room on the disk, or name another folder with --data-dir.</source>
+        <translation>数据文件夹 %1 不可写。请恢复您账户的权限、腾出磁盘空间，或用 --data-dir 指定另一个文件夹。</translation>
+    </message>
+</context>
+<context>
     <name>kelvra_data::Store</name>
-    <message>
-        <source>The data folder %1 cannot be created.</source>
-        <translation>无法创建数据文件夹 %1。</translation>
-    </message>
-    <message>
-        <source>The data folder %1 cannot be written to.</source>
-        <translation>数据文件夹 %1 不可写。</translation>
-    </message>
     <message>
         <source>The database %1 cannot be opened.</source>
         <translation>无法打开数据库 %1。</translation>
@@ -756,6 +787,10 @@
     <message>
         <source>The database cannot be written to.</source>
         <translation>无法写入数据库。</translation>
+    </message>
+    <message>
+        <source>The SQLite driver of Qt is missing. Install the client anew, or this driver alone (on Debian the package libqt5sql5-sqlite).</source>
+        <translation>缺少 Qt 的 SQLite 驱动程序。请重新安装客户端，或只安装该驱动程序（Debian 中为软件包 libqt5sql5-sqlite）。</translation>
     </message>
 </context>
 <context>
