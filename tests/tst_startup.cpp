@@ -5,8 +5,14 @@
 #include "tests/DataFolderTest.h"
 
 #include <QCryptographicHash>
+#include <QLocalServer>
 #include <QLocalSocket>
 #include <QProcess>
+
+#ifdef Q_OS_UNIX
+#    include <sys/stat.h>
+#    include <unistd.h>
+#endif
 
 using kelvra_client::SingleInstance;
 using kelvra_client::StartOptions;
@@ -24,15 +30,18 @@ const QString withoutWindows = isWindows ? "minimal" : "offscreen"; // Qt for Wi
 class Client : public QProcess
 {
 public:
-    explicit Client(const QStringList &arguments, const QByteArray &input = {}, const QString &display = QString())
+    explicit Client(const QStringList &arguments, const QByteArray &input = {}, const QString &display = QString(),
+                    const QString &variable = QString(), const QString &program = KELVRA_CLIENT_PROGRAM)
     {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.remove("WAYLAND_DISPLAY");
         environment.insert("DISPLAY", display);
         environment.insert("LC_ALL", "C.UTF-8");
         environment.insert("QT_QPA_PLATFORM", display.isNull() ? withoutWindows : "");
+        if (!variable.isEmpty())
+            environment.insert(variable.section('=', 0, 0), variable.section('=', 1));
         setProcessEnvironment(environment);
-        start(KELVRA_CLIENT_PROGRAM, arguments);
+        start(program, arguments);
         write(input);
         closeWriteChannel();
     }
@@ -81,6 +90,8 @@ private slots:
             {{"-platform", "offscreen"}, "Unknown option 'platform'."},
             {{"--data-dir", "--version"}, "Missing value after '--data-dir'."},
             {{"--user", " "}, "Missing value after '--user'."},
+            {{"--user", "a", "--user=b"},
+             "'--user' is there more than once. 'kelvra_client --help' lists the options."},
             {{"--language", "7"}, "Unknown language '7'; these are known: 0 English, 1 简体中文, 2 Deutsch,"},
             {{"--language", "english"}, "Unknown language 'english'"},
             {{"--tour", "/t", "--user", "a"}, "exclude each other."},
@@ -107,7 +118,7 @@ private slots:
             {{"--help"}, "", "0 "},
             {{"--version"}, "", "0 "},
             {{"--tour", at("kelvra.key")}, "", "1 The folder " + at("kelvra.key") + " cannot be made."},
-            {{"--bogus"}, "", "2 Unknown option 'bogus'."},
+            {{"--bogus"}, "", "2 Unknown option 'bogus'. 'kelvra_client --help' lists the options."},
             {{}, "", "1 There is no display: neither DISPLAY nor WAYLAND_DISPLAY is set."},
             {{},
              ":6553",
@@ -187,6 +198,83 @@ private slots:
         QCOMPARE(end.count('\n'), 1);
     }
 
+    void helpNamesTheDefaultFolder()
+    {
+        const QString text = StartOptions::helpText();
+        const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+        QVERIFY2(text.contains("  " + QDir::toNativeSeparators(folder) + '\n'), qPrintable(text));
+        QVERIFY2(text.contains("\nExit status:\n  0  after quitting"), qPrintable(text));
+    }
+
+    void folderOfOthersIsRefused_data()
+    {
+        QTest::addColumn<int>("mode");
+        QTest::addColumn<bool>("foreign");
+        QTest::addColumn<QString>("says");
+        QTest::newRow("everybody writes") << 0707 << false << "Other accounts can write to the data folder %1,";
+        QTest::newRow("a group writes") << 0770 << false << "Other accounts can write to the data folder %1,";
+        QTest::newRow("another account's") << 0755 << true << "The data folder %1 belongs to the account ";
+    }
+
+    void folderOfOthersIsRefused()
+    {
+#ifdef Q_OS_UNIX
+        QFETCH(int, mode);
+        QFETCH(bool, foreign);
+        QFETCH(QString, says);
+        const QByteArray path = QFile::encodeName(at());
+        QCOMPARE(chmod(path.constData(), mode_t(mode)), 0);
+        // Only the superuser can give a folder away; for everybody else there are folders of others.
+        const bool given = foreign && chown(path.constData(), 1, 1) == 0;
+        const auto before = contents(dir->path());
+        const QString folder = foreign && !given ? "/usr" : QDir::cleanPath(at());
+        const QString end = Client({"--data-dir", folder}).end();
+        QVERIFY2(end.startsWith("1 kelvra_client: " + says.arg(folder)), qPrintable(end));
+        QVERIFY(end.contains("--data-dir"));
+        QCOMPARE(contents(dir->path()), before);
+#else
+        QSKIP("Access lists are not set by modes.");
+#endif
+    }
+
+    void missingPartsEndWithASentence_data()
+    {
+        QTest::addColumn<QString>("variable");
+        QTest::addColumn<QString>("says");
+        QTest::newRow("no home") << "HOME="
+                                 << "There is no default data folder: HOME has to be";
+        QTest::newRow("no folder at home") << "HOME=/proc/none"
+                                           << "There is no default data folder: HOME has to be";
+        QTest::newRow("no fonts") << "FONTCONFIG_FILE=%1/fonts.conf"
+                                  << "There are no fonts, ";
+        QTest::newRow("no database driver") << ""
+                                            << "The SQLite driver of Qt is missing. ";
+    }
+
+    void missingPartsEndWithASentence()
+    {
+#ifndef Q_OS_LINUX
+        QSKIP("Here all of them go without saying.");
+#endif
+        QFETCH(QString, variable);
+        QFETCH(QString, says);
+        writeFile(dir->filePath("fonts.conf"), "<fontconfig/>");
+        QString program = KELVRA_CLIENT_PROGRAM;
+        if (variable.isEmpty()) {
+            program = dir->filePath("kelvra_client");
+            QVERIFY(QFile::copy(KELVRA_CLIENT_PROGRAM, program));
+            QVERIFY(QDir(dir->path()).mkdir("plugins"));
+            writeFile(dir->filePath("qt.conf"), "[Paths]\nPlugins=plugins\n");
+            const QString platforms = QLibraryInfo::location(QLibraryInfo::PluginsPath) + "/platforms";
+            QVERIFY(QFile::link(platforms, dir->filePath("plugins/platforms")));
+        }
+        const auto before = contents(at());
+        const QStringList options = variable.startsWith("HOME") ? QStringList() : onFolder();
+        const QString end = Client(options, {}, {}, variable.replace("%1", dir->path()), program).end();
+        QVERIFY2(end.contains(QRegularExpression("^1 (Fontconfig [^\n]*\n)*kelvra_client: " + says)), qPrintable(end));
+        QCOMPARE(contents(at()), before);
+    }
+
     void secondStartIsAnsweredByTheFirst()
     {
         QString error;
@@ -242,6 +330,66 @@ private slots:
         Client second(onFolder());
         QTRY_VERIFY(second.hasEnded());
         QCOMPARE(second.end(), QString("0 "));
+    }
+
+    void secondStartSaysThatNobodyWasLoggedIn()
+    {
+        QString error;
+        SingleInstance first(at());
+        QCOMPARE(first.claim(&error), SingleInstance::First);
+        first.answerRepeatedStarts();
+        QSignalSpy spy(&first, &SingleInstance::signalRepeatedStart);
+        Client second(onFolder({"--user", user})); // with no password, which is not asked for
+        QTRY_VERIFY(second.hasEnded());
+        const QString end = second.end();
+        QVERIFY2(end.startsWith("3 kelvra_client: A client is already running on the data folder "), qPrintable(end));
+        QCOMPARE(spy.count(), 1);
+    }
+
+    void firstThatCannotComeToTheFrontIsReported_data()
+    {
+        QTest::addColumn<QByteArray>("answer");
+        QTest::addColumn<QString>("says");
+        QTest::newRow("frozen") << QByteArray() << QString("(process %1), but it does not answer.");
+        QTest::newRow("another program answers") << QByteArray("1") << QString("another program has taken its name ");
+    }
+
+    void firstThatCannotComeToTheFrontIsReported()
+    {
+        QFETCH(QByteArray, answer);
+        QFETCH(QString, says);
+#ifndef Q_OS_UNIX
+        QSKIP("Here the lock file cannot be made older.");
+#endif
+        const QByteArray temporary = qgetenv("TMPDIR");
+        qputenv("TMPDIR", QFile::encodeName(dir->path())); // where the name is
+        const auto restore = qScopeGuard([&] { qputenv("TMPDIR", temporary.isEmpty() ? "/tmp" : temporary); });
+        QString error;
+        SingleInstance first(at());
+        QCOMPARE(first.claim(&error), SingleInstance::First);
+        first.answerRepeatedStarts();
+        QFile lock(at("kelvra.lock"));
+        QVERIFY(lock.open(QFile::ReadWrite));
+        QVERIFY(lock.setFileTime(QDateTime::currentDateTime().addSecs(-60), QFile::FileModificationTime));
+        QLocalServer other;
+        if (!answer.isEmpty()) {
+            const QString name = QDir(dir->path()).entryList({"kelvra_client-*"}, QDir::System).value(0);
+            QVERIFY(QLocalServer::removeServer(name));
+            QVERIFY(other.listen(name));
+            connect(&other, &QLocalServer::newConnection, &other,
+                    [&] { other.nextPendingConnection()->write(answer); });
+        }
+        QElapsedTimer clock;
+        clock.start();
+        Client second(onFolder());
+        if (answer.isEmpty())
+            second.waitForFinished(); // and nothing is answered meanwhile
+        QTRY_VERIFY_WITH_TIMEOUT(second.hasEnded(), 20000);
+        QVERIFY(clock.elapsed() < 8000);
+        const QString end = second.end();
+        QVERIFY2(end.startsWith("1 kelvra_client: The client is already running on the data folder "), qPrintable(end));
+        QVERIFY2(end.contains(says.replace("%1", QString::number(QCoreApplication::applicationPid()))),
+                 qPrintable(end));
     }
 
     void startsAtOnceLeaveOneClient()
