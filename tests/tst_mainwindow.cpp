@@ -306,10 +306,7 @@ private slots:
         login.show();
         QVERIFY(QTest::qWaitForWindowActive(&login));
         side->accompanyLogin();
-        for (QWidget *shown : QApplication::topLevelWidgets()) {
-            if (shown->objectName() == "PhoneWindow")
-                phone = shown;
-        }
+        phone = topLevel("PhoneWindow");
         // The login makes room where it has to, and keeps the keys.
         QVERIFY(phone && phone->isVisible() && !phone->geometry().intersects(login.geometry()));
         QVERIFY(phone->geometry().right() <= phone->screen()->availableGeometry().right());
@@ -351,6 +348,38 @@ private slots:
         QVERIFY(!phone);
     }
 
+    void phoneThatFitsNowhereWaitsBehindAHandle()
+    {
+        const QScopedPointer<CloudSide> side(new CloudSide);
+        side->open(at());
+        ZCOMMON::MoveableDialog login(nullptr, QString(), Qt::black);
+        login.setDefaultPos({50, 40});
+        login.resize(700, 400);
+        login.show();
+        side->accompanyLogin();
+        QWidget *handle = nullptr;
+        QTRY_VERIFY((handle = topLevel("phoneHandle")) && handle->isVisible());
+        phone = topLevel("PhoneWindow");
+        QVERIFY(!phone->isVisible());
+        const QRect screen = login.screen()->availableGeometry();
+        QVERIFY(!handle->geometry().intersects(login.geometry()));
+        QVERIFY(screen.contains(handle->geometry()));
+        QTRY_COMPARE(QApplication::activeWindow(), &login);
+
+        QCOMPARE(ask(sendCodeOperation, {{accountField, ada}}), 1000);
+        QVERIFY(handle->accessibleName().endsWith("something has arrived"));
+        QTest::keyClick(handle, Qt::Key_Return);
+        QVERIFY(!handle->isVisible());
+        QVERIFY(screen.contains(phone->geometry()));
+        click("phoneCloseBt");
+        QVERIFY(handle->isVisible());
+        QCOMPARE(handle->accessibleName(), QString("Open the simulated phone"));
+        login.resize(300, 400); // as much room as it needs
+        QTRY_VERIFY(phone->isVisible());
+        QVERIFY(!handle->isVisible());
+        QVERIFY(!phone->geometry().intersects(login.geometry()));
+    }
+
     void moduleAddsItsStyleSheet()
     {
         const QString own = "QLabel{color:red}\n";
@@ -367,6 +396,15 @@ private:
         fields.insert(terminalField, "other");
         SaasSetup::simulation()->send({"id", operation, fields}, [&](const CloudAnswer &given) { code = given.code; });
         return QTest::qWaitFor([&] { return code != 0; }) ? code : -1;
+    }
+
+    static QWidget *topLevel(const QString &name)
+    {
+        for (QWidget *window : QApplication::topLevelWidgets()) {
+            if (window->objectName() == name)
+                return window;
+        }
+        return nullptr;
     }
 
     QWidget *root() const override { return phone ? phone.data() : window.get(); }

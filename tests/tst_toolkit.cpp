@@ -213,6 +213,29 @@ private slots:
         }
     }
 
+    void alertStaysOnItsWindow()
+    {
+        QWidget owner(nullptr, Qt::FramelessWindowHint); // a frame would count when the box is centred
+        owner.setGeometry(60, 40, 600, 400);
+        owner.show();
+        AlertBox box(&owner, AlertBox::Error, "title", "text");
+        box.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&box));
+        const auto distance = [&] { return (box.geometry().center() - owner.geometry().center()).manhattanLength(); };
+        owner.windowHandle()->setPosition(120, 100); // as a window manager does
+        QTRY_VERIFY(distance() < 4);
+        box.windowHandle()->setPosition(0, 0);
+        QTRY_VERIFY(distance() < 4);
+        QTest::mousePress(box.windowHandle(), Qt::LeftButton, {}, {60, 20});
+        QTest::mouseMove(box.windowHandle(), {90, 30});
+        QTest::mouseRelease(box.windowHandle(), Qt::LeftButton, {}, {90, 30});
+        const QPoint dragged = box.pos();
+        QVERIFY(distance() > 20);
+        owner.windowHandle()->setPosition(60, 40);
+        QTRY_COMPARE(owner.pos(), QPoint(60, 40));
+        QCOMPARE(box.pos(), dragged);
+    }
+
     void alertLosesItsParent()
     {
         auto *owner = new QWidget;

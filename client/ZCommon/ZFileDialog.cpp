@@ -1,5 +1,7 @@
 #include "host/ZCommon/ZFileDialog.h"
 
+#include "client/ZCommon/WindowPlace.h"
+
 #include <QDir>
 #include <QPointer>
 
@@ -12,6 +14,7 @@ QString ZFileDialog::getOpenFileName(QWidget *parent, const QString &caption, co
     const QString start = QFileInfo(directory).isDir() ? directory : QDir::homePath();
     // On the heap and guarded, unlike in QFileDialog's own static function: the parent may go while it is open.
     const QPointer<QFileDialog> dialog = new QFileDialog(parent, caption, start, filter);
+    WindowPlace::centre(dialog);
     dialog->setFileMode(QFileDialog::ExistingFile);
     dialog->setOptions(options);
     if (selectedFilter && !selectedFilter->isEmpty())

@@ -1,13 +1,11 @@
 #include "client/kelvra_base/AlertBox.h"
 
-#include <QApplication>
 #include <QHBoxLayout>
 #include <QIcon>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPointer>
 #include <QPushButton>
-#include <QScreen>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -197,32 +195,12 @@ void AlertBox::keyPressEvent(QKeyEvent *event)
     (cancel ? cancelBt : okBt)->click();
 }
 
-void AlertBox::showEvent(QShowEvent *event)
-{
-    if (!event->spontaneous())
-        centre();
-    CommonDialog::showEvent(event);
-}
-
 void AlertBox::retranslateUi()
 {
     if (okBt)
         okBt->setText(tr("OK"));
     if (cancelBt)
         cancelBt->setText(tr("Cancel"));
-}
-
-void AlertBox::centre()
-{
-    const QWidget *const owner = parentWidget() ? parentWidget()->window() : nullptr;
-    const QWidget *const near = owner && owner->isVisible() ? owner : QApplication::activeWindow();
-    const QRect available = (near ? near->screen() : screen())->availableGeometry();
-    const bool overOwner = owner && owner->isVisible() && !owner->isMinimized();
-    QRect place(QPoint(), size());
-    place.moveCenter(overOwner ? owner->frameGeometry().center() : available.center());
-    place.moveRight(qMin(place.right(), available.right()));
-    place.moveBottom(qMin(place.bottom(), available.bottom()));
-    move(qMax(place.left(), available.left()), qMax(place.top(), available.top()));
 }
 
 } // namespace kelvra_base

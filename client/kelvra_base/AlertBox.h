@@ -45,13 +45,11 @@ public:
 protected:
     void changeEvent(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
-    void showEvent(QShowEvent *event) override;
 
 private:
     void setUpLayout(Icon icon, const QString &text);
     void createButtons(int buttons);
     void retranslateUi();
-    void centre();
 
     QPushButton *okBt = nullptr;
     QPushButton *cancelBt = nullptr;

@@ -1,6 +1,7 @@
 #include "host/kelvra_base/CommonDialog.h"
 
 #include "client/ZCommon/FramelessBehaviour.h"
+#include "client/ZCommon/WindowPlace.h"
 #include "host/ZCommon/StyleDefs.h"
 
 #include <QCloseEvent>
@@ -160,6 +161,7 @@ CommonDialog::CommonDialog(QWidget *parent, int resizeFlag, int closeBtFlag)
     d->createButtons(resizeFlag != 0, closeBtFlag != 0);
     d->nameButtons();
     d->placeButtons();
+    ZCOMMON::WindowPlace::centre(this);
 }
 
 CommonDialog::~CommonDialog() = default;

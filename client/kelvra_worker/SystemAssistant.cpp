@@ -5,6 +5,8 @@
 
 #include <QApplication>
 
+#include <algorithm>
+
 using kelvra_base::AlertBox;
 
 ZSINGLETON_DEFINE(kelvra_worker::SystemAssistant)
@@ -21,13 +23,19 @@ AlertBox::Icon iconFor(const QString &title)
     return title == dictionary.alertTitle(DictDef::InformationTitle) ? AlertBox::Information : AlertBox::Warning;
 }
 
-/** Where the user is at work; a window that only keeps others company is no place for an alert. */
+/** Alerts do not belong to a window that only keeps others company. */
+bool canHaveAlert(const QWidget *window)
+{
+    return window && window->isVisible() && (window->windowType() == Qt::Window || window->windowType() == Qt::Dialog);
+}
+
+/** Where the user is at work. No window may be active yet, as the client starts, or the phone may be. */
 QWidget *placeForAlert()
 {
-    if (QWidget *modal = QApplication::activeModalWidget())
-        return modal;
-    QWidget *active = QApplication::activeWindow();
-    return active && active->windowType() != Qt::Tool ? active : nullptr;
+    QList<QWidget *> windows{QApplication::activeModalWidget(), QApplication::activeWindow()};
+    windows += QApplication::topLevelWidgets();
+    const auto place = std::find_if(windows.cbegin(), windows.cend(), canHaveAlert);
+    return place != windows.cend() ? *place : nullptr;
 }
 
 } // namespace

@@ -174,8 +174,8 @@ QString ClientShell::openData()
     cloud->keepPhone(!options.noPhone);
     Store::_instance().setSuperUserReplaceable(customization.isSuperUserReplaceable());
     if (!customization.createIfMissing())
-        kelvra_worker::FailureNotice::show(tr("The file %1 cannot be written; the client goes on without it.")
-                                               .arg(QDir::toNativeSeparators(WorkerSetup::customizeFilePath())));
+        notice = tr("The file %1 cannot be written; the client goes on without it.")
+                     .arg(QDir::toNativeSeparators(WorkerSetup::customizeFilePath()));
     return {};
 }
 
@@ -211,6 +211,8 @@ void ClientShell::startLogin()
     loginOpened = QDateTime::currentDateTime();
     requestLogin();
     cloud->accompanyLogin();
+    if (!notice.isEmpty())
+        kelvra_worker::FailureNotice::show(notice);
     connect(instance.get(), &SingleInstance::signalRepeatedStart, this, &ClientShell::comeToFront);
     instance->answerRepeatedStarts();
 }

@@ -66,6 +66,7 @@ private:
     void showWindow();
 
     StartOptions options;
+    QString notice;                           ///< for the user, once the login is open
     QString handedPassword;                   ///< until the login has it
     std::unique_ptr<SingleInstance> instance; ///< goes last: the folder is in use until the store is closed
     std::unique_ptr<CloudSide> cloud;         ///< from when the store is open

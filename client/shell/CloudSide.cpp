@@ -2,6 +2,7 @@
 
 #include "client/kelvra_data/Store.h"
 #include "client/kelvra_saas/SaasSetup.h"
+#include "client/shell/PhonePlace.h"
 #include "client/shell/PhoneWindow.h"
 #include "host/ZCommon/MoveableDialog.h"
 #include "host/kelvra_data/UserData.h"
@@ -39,6 +40,7 @@ CloudSide::CloudSide(QObject *parent)
 
 CloudSide::~CloudSide()
 {
+    place.reset();
     phone.reset();
     SaasSetup::close();
 }
@@ -80,48 +82,59 @@ bool CloudSide::hasPhone() const
     return isEnabled() && SaasSetup::simulation();
 }
 
-PhoneWindow *CloudSide::preparedPhone()
+PhonePlace *CloudSide::preparedPhone()
 {
     if (!phone && hasPhone()) {
         CloudSimulation *cloud = SaasSetup::simulation();
         phone = std::make_unique<PhoneWindow>(*cloud);
-        connect(cloud, &CloudSimulation::signalMessageArrived, this, &CloudSide::comeBack);
+        place = std::make_unique<PhonePlace>(*phone);
+        connect(cloud, &CloudSimulation::signalMessageArrived, this, &CloudSide::arrive);
         connect(cloud, &CloudSimulation::signalCodeChanged, this, [this, cloud] {
             const QString code = cloud->codeOnShow().id;
             if (code.isEmpty() || code == lastCode)
                 return;
             lastCode = code;
-            comeBack();
+            arrive();
         });
     }
-    return phone.get();
+    return place.get();
 }
 
 void CloudSide::showPhone()
 {
-    if (PhoneWindow *window = preparedPhone())
-        window->showBeside(nullptr);
+    if (PhonePlace *prepared = preparedPhone())
+        prepared->open();
 }
 
 void CloudSide::accompanyLogin()
 {
+    // The phone may have been opened on its own meanwhile, where the login comes now.
+    if (!loginOpen && place)
+        place->leave();
     loginOpen = true;
     comeBack();
 }
 
 void CloudSide::comeBack()
 {
-    if (!loginOpen || !phoneKept)
+    QWidget *dialog = loginDialog();
+    if (!loginOpen || !phoneKept || !dialog)
         return;
-    if (PhoneWindow *window = preparedPhone())
-        window->showBeside(loginDialog());
+    if (PhonePlace *prepared = preparedPhone())
+        prepared->accompany(dialog);
+}
+
+void CloudSide::arrive()
+{
+    comeBack();
+    place->announce();
 }
 
 void CloudSide::leaveLogin()
 {
     loginOpen = false;
-    if (phone)
-        phone->hide();
+    if (place)
+        place->leave();
 }
 
 } // namespace kelvra_client

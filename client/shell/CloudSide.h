@@ -7,6 +7,7 @@
 
 namespace kelvra_client {
 
+class PhonePlace;
 class PhoneWindow;
 
 /** What the shell does for users of the cloud: the library's set-up, their automatic login, the simulated phone. */
@@ -43,11 +44,15 @@ public:
     static void settleAutoLogin(const QString &account);
 
 private:
-    PhoneWindow *preparedPhone();
+    /** Null without a phone. */
+    PhonePlace *preparedPhone();
     void comeBack();
+    /** Something has come on the phone. */
+    void arrive();
 
     std::unique_ptr<PhoneWindow> phone;
-    QString lastCode; ///< that has been on show, so that the phone comes once for each
+    std::unique_ptr<PhonePlace> place; ///< goes before the phone
+    QString lastCode;                  ///< that has been on show, so that the phone comes once for each
     bool phoneKept = true;
     bool loginOpen = false;
 };

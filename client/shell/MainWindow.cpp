@@ -1,5 +1,6 @@
 #include "client/shell/MainWindow.h"
 
+#include "client/ZCommon/WindowPlace.h"
 #include "client/kelvra_worker/AuditTrail.h"
 #include "host/kelvra_contact/SystemMsg.h"
 #include "host/kelvra_data/UserData.h"
@@ -137,6 +138,7 @@ void MainWindow::askForCredentialsFile()
                                    QStandardPaths::writableLocation(QStandardPaths::DesktopLocation));
     dialog->setObjectName(QStringLiteral("exportDlg"));
     dialog->setAttribute(Qt::WA_DeleteOnClose);
+    ZCOMMON::WindowPlace::centre(dialog);
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     dialog->selectFile(credentialsFileName);
     connect(dialog, &QFileDialog::fileSelected, this, &MainWindow::exportCredentials, Qt::QueuedConnection);

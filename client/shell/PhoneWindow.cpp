@@ -3,15 +3,13 @@
 #include "host/kelvra_saas/LoginWorker.h"
 #include "ui_PhoneWindow.h"
 
-#include <QApplication>
 #include <QClipboard>
-#include <QCursor>
 #include <QDesktopServices>
 #include <QDir>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QPainterPath>
-#include <QScreen>
 #include <QUrl>
 
 using kelvra_saas::CloudAccount;
@@ -24,7 +22,6 @@ namespace kelvra_client {
 
 namespace {
 
-constexpr int gapPixels = 12; // between the phone and its neighbour
 constexpr int clockIntervalMs = 250;
 constexpr int copiedMs = 1500; // how long a button tells that it has copied
 constexpr int secondsPerMinute = 60;
@@ -73,7 +70,6 @@ PhoneWindow::PhoneWindow(CloudSimulation &simulation, QWidget *parent)
     setAttribute(Qt::WA_ShowWithoutActivating);
     setAttribute(Qt::WA_TranslucentBackground);
     ui->setupUi(this);
-    cutCorners();
     clock.setInterval(clockIntervalMs);
     connect(&clock, &QTimer::timeout, this, &PhoneWindow::showTimes);
     connect(ui->phoneCloseBt, &QPushButton::clicked, this, &PhoneWindow::close);
@@ -125,40 +121,6 @@ void PhoneWindow::connectCode()
     connect(ui->refuseOperationBt, &QPushButton::clicked, this,
             [refuse] { refuse(LoginWorker::QRCodeIllegalOperation); });
     connect(ui->refuseAddressBt, &QPushButton::clicked, this, [refuse] { refuse(LoginWorker::QRCodeIllegalAddress); });
-}
-
-void PhoneWindow::showBeside(QWidget *neighbour)
-{
-    if (!isVisible())
-        move(neighbour ? placeBeside(neighbour) : placeAtEdge());
-    QWidget *const active = QApplication::activeWindow();
-    show();
-    raise();
-    // There are platforms that activate whatever is shown.
-    if (active)
-        active->activateWindow();
-}
-
-QPoint PhoneWindow::placeBeside(QWidget *neighbour) const
-{
-    const QRect screen = neighbour->screen()->availableGeometry();
-    const QRect dialog = neighbour->frameGeometry();
-    const int needed = gapPixels + width();
-    const int y = qMax(screen.top(), qMin(dialog.center().y() - height() / 2, screen.bottom() + 1 - height()));
-    const bool atRight = dialog.right() + needed <= screen.right();
-    if (!atRight && dialog.left() - needed >= screen.left())
-        return {dialog.left() - needed, y};
-    const int spare = screen.width() - dialog.width() - needed;
-    if (!atRight && spare >= 0)
-        neighbour->move(screen.left() + spare / 2, neighbour->y());
-    return {neighbour->frameGeometry().right() + 1 + gapPixels, y};
-}
-
-QPoint PhoneWindow::placeAtEdge() const
-{
-    const QScreen *near = QGuiApplication::screenAt(QCursor::pos());
-    const QRect screen = (near ? near : QGuiApplication::primaryScreen())->availableGeometry();
-    return {screen.right() - gapPixels - width(), qMax(screen.top(), screen.center().y() - height() / 2)};
 }
 
 void PhoneWindow::showAll()
@@ -333,6 +295,12 @@ void PhoneWindow::changeEvent(QEvent *event)
         showAll();
     }
     QWidget::changeEvent(event);
+}
+
+void PhoneWindow::resizeEvent(QResizeEvent *event)
+{
+    cutCorners();
+    QWidget::resizeEvent(event);
 }
 
 void PhoneWindow::showEvent(QShowEvent *event)

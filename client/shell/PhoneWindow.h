@@ -30,10 +30,6 @@ public:
     explicit PhoneWindow(kelvra_saas::CloudSimulation &simulation, QWidget *parent = nullptr);
     ~PhoneWindow() override;
 
-    /** Shows the phone next to `neighbour` (null: at the edge of the screen), which makes room where the screen has
-     * enough. */
-    void showBeside(QWidget *neighbour);
-
 protected:
     bool event(QEvent *event) override;
     void changeEvent(QEvent *event) override;
@@ -43,11 +39,10 @@ protected:
     void mousePressEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
     void showEvent(QShowEvent *event) override;
 
 private:
-    QPoint placeBeside(QWidget *neighbour) const;
-    QPoint placeAtEdge() const;
     void cutCorners();
     void connectCloud();
     void connectAccount();

@@ -124,8 +124,8 @@ TourStep switchUser(const QString &account)
 QVector<TourStep> byPassword()
 {
     return {
-        step("start on an empty data folder", makeRoom("label") + makeRoom("phoneCaption"),
-             methods + "; phone: {phoneCaption}", is(methodTexts + "; phone: Nimbra phone"), "phone"),
+        step("start on an empty data folder", makeRoom("label"), methods + "; phone: {phoneCaption}",
+             is(methodTexts + "; phone: Nimbra phone"), "phone"),
         step("click \"Login Nimbra App User\"", click("saasUserBt"), "{localUserTab}, {saasUserTab}; " + passwordPage,
              is("Local User, Nimbra User; " + passwordPageText("nothing", "nothing")), "cloud-login"),
         step("enter ten digits and click \"Login\"",

@@ -103,6 +103,7 @@ void TourDriver::tick()
         step.acts.at(nextAct++)(*this);
         return;
     }
+    hands.openPhone();
     if (step.look.isEmpty())
         return;
     const QString seen = describe(step.look);

@@ -34,6 +34,7 @@ constexpr QChar colorMark('~');
 constexpr int vividDifference = 100;         // between the red and the blue of a colour that stands out
 constexpr int dragPixels = 16;               // from one move to the next
 constexpr int beyondPixels = 4;              // past a place that is drawn through
+constexpr int besideLoginPixels = 13;        // from the login's last column to the phone's first
 const QColor desktopColor(0x5b, 0x67, 0x7d); // around windows that stand side by side
 
 QList<QWidget *> windowsFromTheTop()
@@ -269,6 +270,23 @@ void TourInput::shift(const QString &path, const QPoint &way)
 {
     if (QWidget *widget = find(path))
         widget->window()->move(widget->window()->pos() + way);
+}
+
+void TourInput::openPhone()
+{
+    QWidget *login = find(QStringLiteral("kelvra_login__LoginDlg"));
+    const QString handle = QStringLiteral("phoneHandle");
+    if (!login || !find(handle))
+        return;
+    click(handle);
+    QWidget *caption = find(QStringLiteral("phoneCaption"));
+    if (!caption)
+        return;
+    // Whole, wherever the screen ends: pictures are taken of windows.
+    QWidget *phone = caption->window();
+    phone->resize(phone->maximumSize());
+    const QRect frame = login->frameGeometry();
+    phone->move(frame.right() + besideLoginPixels, qMax(0, frame.center().y() - phone->height() / 2));
 }
 
 void TourInput::minimize(const QString &path)

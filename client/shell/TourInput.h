@@ -30,6 +30,8 @@ public:
     // As the window manager does, with the window of a widget.
     void shift(const QString &path, const QPoint &way);
     void minimize(const QString &path);
+    /** Opens the phone by its handle and puts it beside the login, where the screen is too small for both. */
+    void openPhone();
     /** Presses a key in the window that takes the keys. */
     void press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier, const QString &text = QString());
     void type(const QString &text);

@@ -411,6 +411,17 @@
     </message>
 </context>
 <context>
+    <name>kelvra_client::PhoneHandle</name>
+    <message>
+        <source>Open the simulated phone: something has arrived</source>
+        <translation>Simuliertes Telefon öffnen: Es ist etwas eingetroffen</translation>
+    </message>
+    <message>
+        <source>Open the simulated phone</source>
+        <translation>Simuliertes Telefon öffnen</translation>
+    </message>
+</context>
+<context>
     <name>kelvra_client::PhoneWindow</name>
     <message>
         <source>Nimbra phone (simulated)</source>

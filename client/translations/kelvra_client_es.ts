@@ -411,6 +411,17 @@
     </message>
 </context>
 <context>
+    <name>kelvra_client::PhoneHandle</name>
+    <message>
+        <source>Open the simulated phone: something has arrived</source>
+        <translation>Abrir el teléfono simulado: ha llegado algo</translation>
+    </message>
+    <message>
+        <source>Open the simulated phone</source>
+        <translation>Abrir el teléfono simulado</translation>
+    </message>
+</context>
+<context>
     <name>kelvra_client::PhoneWindow</name>
     <message>
         <source>Nimbra phone (simulated)</source>

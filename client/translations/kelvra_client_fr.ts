@@ -411,6 +411,17 @@
     </message>
 </context>
 <context>
+    <name>kelvra_client::PhoneHandle</name>
+    <message>
+        <source>Open the simulated phone: something has arrived</source>
+        <translation>Ouvrir le téléphone simulé&#xa0;: quelque chose est arrivé</translation>
+    </message>
+    <message>
+        <source>Open the simulated phone</source>
+        <translation>Ouvrir le téléphone simulé</translation>
+    </message>
+</context>
+<context>
     <name>kelvra_client::PhoneWindow</name>
     <message>
         <source>Nimbra phone (simulated)</source>

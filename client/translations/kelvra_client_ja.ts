@@ -411,6 +411,17 @@
     </message>
 </context>
 <context>
+    <name>kelvra_client::PhoneHandle</name>
+    <message>
+        <source>Open the simulated phone: something has arrived</source>
+        <translation>模擬電話機を開く：新着があります</translation>
+    </message>
+    <message>
+        <source>Open the simulated phone</source>
+        <translation>模擬電話機を開く</translation>
+    </message>
+</context>
+<context>
     <name>kelvra_client::PhoneWindow</name>
     <message>
         <source>Nimbra phone (simulated)</source>

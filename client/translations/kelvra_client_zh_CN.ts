@@ -411,6 +411,17 @@
     </message>
 </context>
 <context>
+    <name>kelvra_client::PhoneHandle</name>
+    <message>
+        <source>Open the simulated phone: something has arrived</source>
+        <translation>打开模拟手机：有新内容</translation>
+    </message>
+    <message>
+        <source>Open the simulated phone</source>
+        <translation>打开模拟手机</translation>
+    </message>
+</context>
+<context>
     <name>kelvra_client::PhoneWindow</name>
     <message>
         <source>Nimbra phone (simulated)</source>
