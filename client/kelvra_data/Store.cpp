@@ -123,7 +123,7 @@ QString Store::openFiles(const QString &folder, bool *created)
 
     // Made here rather than by SQLite: the files that SQLite puts beside it get its permissions.
     const QString path = QDir(folder).filePath(databaseFile);
-    QString problem = unfitFile(path);
+    problem = unfitFile(path);
     if (!problem.isEmpty())
         return problem;
     QFile file(path);

@@ -9,7 +9,7 @@ namespace {
 constexpr int codeDigits = 6;
 constexpr int codesThereAre = 1000000;
 constexpr int validityMinutes = 5;
-constexpr int secondsPerMinute = 60;
+constexpr qint64 secondsPerMinute = 60;
 constexpr int messagesKept = 50;
 
 } // namespace

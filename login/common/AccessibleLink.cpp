@@ -21,7 +21,7 @@ QAccessible::State AccessibleLink::state() const
 
 QString AccessibleLink::text(QAccessible::Text kind) const
 {
-    const QString given = QAccessibleWidget::text(kind);
+    QString given = QAccessibleWidget::text(kind);
     if (kind != QAccessible::Name || !given.isEmpty())
         return given;
     return QTextDocumentFragment::fromHtml(static_cast<QLabel *>(widget())->text()).toPlainText();

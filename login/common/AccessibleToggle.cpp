@@ -30,7 +30,7 @@ QAccessible::State AccessibleToggle::state() const
 
 QString AccessibleToggle::text(QAccessible::Text kind) const
 {
-    const QString given = QAccessibleWidget::text(kind);
+    QString given = QAccessibleWidget::text(kind);
     return kind == QAccessible::Name && given.isEmpty() ? button()->text() : given;
 }
 

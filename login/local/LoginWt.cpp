@@ -55,7 +55,7 @@ void LoginWt::createLanguageBox()
     languageBox->setCurrentText(names.value(SysLanguage::_instance().getLanguage()));
 
     // The box takes no focus.
-    auto *boxKey = new QShortcut(Qt::ALT | Qt::Key_L, this);
+    auto *boxKey = new QShortcut(QKeySequence(QStringLiteral("Alt+L")), this);
     ui->handlers.connect(boxKey, &QShortcut::activated, languageBox, &QComboBox::showPopup);
 
     // Only now: filling the box is no choice of the user's.

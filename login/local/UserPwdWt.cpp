@@ -17,7 +17,6 @@ namespace {
 constexpr QChar placeholderChar(0x0001);
 constexpr int placeholderLength = 16;
 constexpr char passwordProperty[] = "pwd";
-constexpr int eyeKey = Qt::ALT | Qt::Key_F8; // Tab goes from field to field
 
 bool isForbiddenKey(const QKeyEvent &event)
 {
@@ -59,7 +58,8 @@ UserPwdWt::UserPwdWt(QWidget *parent)
     eye->setObjectName(QStringLiteral("eye"));
     eye->setCheckable(true);
     eye->setText(tr("Show password"));
-    eye->setShortcut(eyeKey);
+    // Tab goes from field to field, past the eye.
+    eye->setShortcut(QKeySequence(QStringLiteral("Alt+F8")));
     eye->setShortcutContext(Qt::WidgetShortcut);
     ui->pwd->addAction(eye, QLineEdit::TrailingPosition);
 

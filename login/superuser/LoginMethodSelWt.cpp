@@ -38,9 +38,9 @@ LoginMethodSelWt::LoginMethodSelWt(QWidget *parent)
     ui->defaultUserBt->setMethod(LoginMethodBt::DefaultSuperUserMethod);
     ui->newUserBt->setMethod(LoginMethodBt::NewSuperUserMethod);
     ui->saasUserBt->setMethod(LoginMethodBt::CloudUserMethod);
-    ui->defaultUserBt->setShortcut(Qt::ALT | Qt::Key_1);
-    ui->newUserBt->setShortcut(Qt::ALT | Qt::Key_2);
-    ui->saasUserBt->setShortcut(Qt::ALT | Qt::Key_3);
+    ui->defaultUserBt->setShortcut(QKeySequence(QStringLiteral("Alt+1")));
+    ui->newUserBt->setShortcut(QKeySequence(QStringLiteral("Alt+2")));
+    ui->saasUserBt->setShortcut(QKeySequence(QStringLiteral("Alt+3")));
     applyCloudRule();
     for (const LoginMethodBt *button : {ui->defaultUserBt, ui->newUserBt, ui->saasUserBt})
         ui->handlers.connect(button, &LoginMethodBt::signalClicked, this, &LoginMethodSelWt::slotLoginMethodBtClicked);
