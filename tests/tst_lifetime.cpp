@@ -166,7 +166,7 @@ private slots:
         QFile source(file);
         QVERIFY(source.open(QIODevice::ReadOnly));
         const QString text = source.readAll();
-        static const QRegularExpression passesTheFormBy("(?<!handlers\\.)\\bconnect\\(|\\bsingleShot\\(");
+        static const QRegularExpression passesTheFormBy("(?<![hH]andlers\\.)\\bconnect\\(|\\bsingleShot\\(");
         const QString fault = text.contains("#include \"ui_") ? passesTheFormBy.match(text).captured() : QString();
         QCOMPARE(fault, QString());
     }

@@ -319,7 +319,10 @@ protected:
     }
 
 private slots:
-    void deleteWindow() { delete window; }
+    void deleteWindow()
+    {
+        delete window;
+    }
 
 private:
     static QImage builtIn()

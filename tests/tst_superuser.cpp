@@ -257,7 +257,8 @@ private slots:
     void copiedPasswordIsTakenOff_data()
     {
         QTest::addColumn<QString>("end");
-        for (const char *end : {"after a minute", "with Escape", "with the window", "with the dialog"})
+        for (const char *end :
+             {"after a minute", "with Escape", "with the window", "with the dialog", "with the program"})
             QTest::newRow(end) << end;
     }
 
@@ -275,8 +276,10 @@ private slots:
             QTest::keyClick(window, Qt::Key_Escape);
         else if (end == "with the window")
             window->close();
-        else
+        else if (end == "with the dialog")
             delete window;
+        else
+            runAndQuit();
         QTRY_COMPARE(QGuiApplication::clipboard()->text(), QString());
     }
 
@@ -388,6 +391,13 @@ private:
         if (screen != getBackPwd)
             showScreen(screen, {user});
         deeds();
+    }
+
+    // What a program does when it ends.
+    static void runAndQuit()
+    {
+        QTimer::singleShot(0, qApp, &QCoreApplication::quit);
+        QCoreApplication::exec();
     }
 
     void showPassword()

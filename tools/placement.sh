@@ -123,7 +123,7 @@ start() {
     fi
     seen=$(settled_windows 3)
     found="$(printf '%s\n' "$seen" | judge "$screen") $(focus_elsewhere)"
-    kill $client
+    kill $client 2>/dev/null || true
     wait $client 2>/dev/null || true
     rm -rf "$folder"
 }
@@ -155,7 +155,7 @@ cd "$root"
 # shellcheck disable=SC2086
 install_missing $build_packages openbox xfwm4 dbus-daemon xvfb xauth xdotool x11-utils
 if [ -z "${PROGRAM:-}" ]; then
-    build dev
+    build dev >&2
     PROGRAM=$root/build/dev/bin/kelvra_client
 fi
 unset WAYLAND_DISPLAY QT_QPA_PLATFORM QT_SCALE_FACTOR
@@ -165,7 +165,7 @@ printf '|---|---|---|---|---|---|---|---|\n'
 failed=0
 for screen in $screens; do
     for manager in $managers; do
-        result=$(xvfb-run -a -s "-screen 0 ${screen%@*}x24" dbus-run-session -- \
+        result=$(xvfb-run -a -s "-screen 0 ${screen%@*}x24 -noreset" dbus-run-session -- \
             "$root/tools/placement.sh" row "$manager" "$screen" "${1:-5}" "$PROGRAM" 3>&1 >/dev/null)
         printf '| %s |\n' "$(echo "$result" | sed 's/ / | /g')"
         case $result in

@@ -38,6 +38,10 @@ MoveableDialog::~MoveableDialog() = default;
 void MoveableDialog::setDefaultPos(const QPoint &pos)
 {
     d->defaultPos = pos;
+    // The window system had better make the window there. Where it makes the window first and then moves it, Qt asks
+    // for the place while a window manager is still taking the window over, and may keep a wrong answer.
+    if (!testAttribute(Qt::WA_WState_Created))
+        move(pos);
 }
 
 void MoveableDialog::mousePressEvent(QMouseEvent *event)

@@ -26,8 +26,8 @@ QPoint centred(const QWidget *window)
         owner = nullptr;
     const QWidget *near = owner ? owner : QApplication::activeWindow();
     const QRect available = (near ? near : window)->screen()->availableGeometry();
-    QRect place(QPoint(), window->frameGeometry().size());
-    place.moveCenter(owner && !owner->isMinimized() ? owner->frameGeometry().center() : available.center());
+    QRect place(QPoint(), WindowWatch::frameOf(window).size());
+    place.moveCenter(owner && !owner->isMinimized() ? WindowWatch::frameOf(owner).center() : available.center());
     place.moveRight(qMin(place.right(), available.right()));
     place.moveBottom(qMin(place.bottom(), available.bottom()));
     return {qMax(place.left(), available.left()), qMax(place.top(), available.top())};
@@ -48,6 +48,12 @@ WindowPlace::WindowPlace(QWidget *placedWindow, Rule belongsAt)
 void WindowPlace::centre(QWidget *window)
 {
     new WindowPlace(window, [window] { return centred(window); });
+}
+
+void WindowPlace::move(QWidget *window, const QPoint &place)
+{
+    const QPoint border = window->geometry().topLeft() - WindowWatch::frameOf(window).topLeft();
+    window->setGeometry(QRect(place + border, window->size()));
 }
 
 void WindowPlace::update()
@@ -96,18 +102,23 @@ void WindowPlace::begin()
 
 void WindowPlace::put()
 {
-    if (isFree() && window->pos() != rule())
-        window->move(rule());
+    if (isFree() && !stands())
+        move(window, rule());
 }
 
 void WindowPlace::correct()
 {
-    if (!isFree() || window->pos() == rule())
+    if (!isFree() || stands())
         return;
     // Who moves it time and again is a user, or a window manager that insists on a place of its own.
     letGo = correctionsLeft == 0;
     --correctionsLeft;
     put();
+}
+
+bool WindowPlace::stands() const
+{
+    return WindowWatch::frameOf(window).topLeft() == rule();
 }
 
 bool WindowPlace::isFree() const

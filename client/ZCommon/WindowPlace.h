@@ -26,6 +26,9 @@ public:
     /** Centres the window on the one that its parent belongs to; where that is not shown, on its screen. */
     static void centre(QWidget *window);
 
+    /** Moves a window so that its frame's top left corner comes to `place`, without regard to QWidget's own margins. */
+    static void move(QWidget *window, const QPoint &place);
+
     /** Puts the window where it belongs by now, unless it has been let go. */
     void update();
     bool isLetGo() const { return letGo; }
@@ -38,6 +41,7 @@ private:
     void begin();
     void put();
     void correct();
+    bool stands() const;
     bool isFree() const;
 
     QWidget *const window;

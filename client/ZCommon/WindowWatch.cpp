@@ -33,6 +33,13 @@ bool WindowWatch::isThere(const QWidget *window)
     return window && window->isVisible() && window->windowHandle() && window->windowHandle()->isExposed();
 }
 
+QRect WindowWatch::frameOf(const QWidget *window)
+{
+    const QRect inside = window->geometry();
+    const QRect frame = window->frameGeometry();
+    return (window->windowFlags() & Qt::FramelessWindowHint) || !frame.contains(inside) ? inside : frame;
+}
+
 bool WindowWatch::eventFilter(QObject *object, QEvent *event)
 {
     static const QSet<int> ofWidget{QEvent::Move, QEvent::Resize, QEvent::WindowStateChange};

@@ -4,6 +4,7 @@
 
 #include <QObject>
 #include <QPointer>
+#include <QRect>
 
 class QWidget;
 
@@ -26,6 +27,12 @@ public:
 
     /** Whether the window system shows the window, so that its place is final for now. */
     static bool isThere(const QWidget *window);
+
+    /**
+     * Where a window stands with its frame, in global pixels. QWidget::frameGeometry() may be wrong for good: it is
+     * read while the window manager is still building its frame, of a window without borders too.
+     */
+    static QRect frameOf(const QWidget *window);
 
     bool eventFilter(QObject *object, QEvent *event) override;
 

@@ -146,7 +146,7 @@ void PhonePlace::makeRoom()
 {
     const int spare = screen().width() - loginFrame().width() - gapPixels - roomNeeded().width();
     if (spare >= 0)
-        login.window()->move(screen().left() + spare / 2, loginFrame().top());
+        WindowPlace::move(login.window(), {screen().left() + spare / 2, loginFrame().top()});
 }
 
 QRect PhonePlace::screen() const
@@ -161,7 +161,7 @@ QRect PhonePlace::screen() const
 
 QRect PhonePlace::loginFrame() const
 {
-    return login.window() ? login.window()->frameGeometry() : QRect();
+    return login.window() ? WindowWatch::frameOf(login.window()) : QRect();
 }
 
 QSize PhonePlace::roomNeeded() const
@@ -192,7 +192,7 @@ QPoint PhonePlace::spotAtEdge() const
 
 QPoint PhonePlace::spotOfPhone() const
 {
-    return beside ? spotBeside().value_or(phone.pos()) : openedAt;
+    return beside ? spotBeside().value_or(WindowWatch::frameOf(&phone).topLeft()) : openedAt;
 }
 
 QPoint PhonePlace::spotOfHandle() const

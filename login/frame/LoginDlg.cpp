@@ -91,8 +91,9 @@ void LoginDlg::quitWithMessage(const QString &message)
     // The dialog may end under the open message, and be gone. The client has to quit all the same, once.
     const QPointer<LoginDlg> self(this);
     bool quitHeard = false;
-    Handlers whileOpen;
-    whileOpen.connect(&SystemMsg::_instance(), &SystemMsg::signalPrepareQuitSystem, [&quitHeard] { quitHeard = true; });
+    Handlers quitHandlers;
+    quitHandlers.connect(&SystemMsg::_instance(), &SystemMsg::signalPrepareQuitSystem,
+                         [&quitHeard] { quitHeard = true; });
     if (!message.isEmpty())
         ZMessageBox::warning(this, message, kelvra_base::OkButton, false);
     if (self && !self->hasEnded())

@@ -144,7 +144,7 @@ void UserNameWt::openMenu(const QPoint &globalPos)
         if (!action->text().startsWith(QLineEdit::tr("&Paste")))
             continue;
         disconnect(action, &QAction::triggered, nullptr, nullptr);
-        connect(action, &QAction::triggered, this, &UserNameWt::pasteWithoutBlanks);
+        ui->handlers.connect(action, &QAction::triggered, this, &UserNameWt::pasteWithoutBlanks);
     }
     menu->popup(globalPos);
 }
