@@ -188,7 +188,7 @@ QString Store::unlock(const QString &file, bool mayCreate) const
         if (!Vault::createKeyFile(file) && !QFileInfo::exists(file))
             return tr("The key file %1 cannot be written.").arg(path);
     }
-    const QString problem = OrdinaryFile::problem(file, OrdinaryFile::anySize);
+    QString problem = OrdinaryFile::problem(file, OrdinaryFile::anySize);
     if (!problem.isEmpty())
         return problem;
     if (QFileInfo(file).size() != Vault::keyFileBytes)
