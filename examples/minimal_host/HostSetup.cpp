@@ -1,4 +1,4 @@
-#include "tests/contract/HostSetup.h"
+#include "host/kit/HostSetup.h"
 
 #include "client/kelvra_data/Store.h"
 #include "client/kelvra_saas/SaasSetup.h"

@@ -5,7 +5,7 @@
 #include "host/kelvra_contact/SystemMsg.h"
 #include "host/kelvra_worker/SystemWorker.h"
 #include "login/frame/LoginInit.h"
-#include "tests/contract/HostSetup.h"
+#include "host/kit/HostSetup.h"
 
 #include <QApplication>
 #include <QDir>

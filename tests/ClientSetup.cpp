@@ -1,7 +1,7 @@
 #include "client/kelvra_data/Store.h"
 #include "client/kelvra_saas/SaasSetup.h"
 #include "client/kelvra_worker/WorkerSetup.h"
-#include "tests/contract/HostSetup.h"
+#include "host/kit/HostSetup.h"
 
 bool HostSetup::open(const QString &folder)
 {

@@ -25,7 +25,7 @@
 #include "host/kelvra_worker/SystemAssistant.h"
 #include "host/kelvra_worker/SystemWorker.h"
 #include "host/kelvra_worker/UiSettings.h"
-#include "tests/contract/HostSetup.h"
+#include "host/kit/HostSetup.h"
 
 #include <QProcess>
 #include <QScreen>
