@@ -32,7 +32,7 @@ constexpr double lightTop = 12.5;
 constexpr QSize lightSize(36, 33);
 
 // Holds a picture for a screen of 3840 x 2160 even when it is not compressed; reading more would hold up the login.
-constexpr qint64 largestPicture = 40 * 1024 * 1024; // bytes
+constexpr qint64 largestPicture = qint64(40) * 1024 * 1024; // bytes
 
 /** The host's own loading picture as it is in its file; empty when it has none, or none that can be read. */
 QByteArray customPicture()
