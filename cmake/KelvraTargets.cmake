@@ -8,6 +8,10 @@ if(MSVC)
 else()
     target_compile_options(kelvra_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow
                                                     $<$<BOOL:${KELVRA_WERROR}>:-Werror>)
+    # Qt's QSKIP leaves the variable arguments of a macro empty, which C++20 allows.
+    target_compile_options(
+        kelvra_options INTERFACE $<$<CXX_COMPILER_ID:Clang>:-Wno-gnu-zero-variadic-macro-arguments>
+    )
 endif()
 if(KELVRA_SANITIZE)
     set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)

@@ -181,9 +181,9 @@ private slots:
                 shown += isShown(part) ? QStringList(part) : QStringList();
             return shown.join(' ');
         };
-        const QString users = "addUserBt setPwdBt removeUserBt usersTable";
-        QCOMPARE(offered("root"), users + " getbackPwdBt exportCredentialsBt");
-        QCOMPARE(offered("13800001111"), users + " getbackPwdBt exportCredentialsBt");
+        const QString userParts = "addUserBt setPwdBt removeUserBt usersTable";
+        QCOMPARE(offered("root"), userParts + " getbackPwdBt exportCredentialsBt");
+        QCOMPARE(offered("13800001111"), userParts + " getbackPwdBt exportCredentialsBt");
         QCOMPARE(offered("bob"), QString("usersNote"));
         QVERIFY(text("usersNote").contains("root") && text("currentUser") == "bob");
         QCOMPARE(admin.remove("bob"), UserAdmin::Done);
@@ -191,7 +191,7 @@ private slots:
         QCOMPARE(text("currentRole"), QString("This user has been removed"));
         // An account alone has no password here.
         QVERIFY(Store::_instance().change("DELETE FROM users WHERE name = 'root'"));
-        QCOMPARE(offered("13800001111"), users);
+        QCOMPARE(offered("13800001111"), userParts);
     }
 
     void gestureOfAnotherIsManaged()

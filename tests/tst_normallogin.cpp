@@ -11,7 +11,7 @@ using kelvra_contact::SystemMsg;
 
 namespace {
 
-const QString remembered(16, QChar(1));
+const QString placeholders(16, QChar(1));
 const QString lockDeeds = "updateLockInfo(true,180) lockUserLog(alice,%1)";
 constexpr int idleMs = 600; // longer than an automatic login waits
 
@@ -100,7 +100,7 @@ private slots:
         if (QTest::currentDataTag() == QByteArray("quits"))
             quit();
         QCOMPARE(nameEdit()->text(), QString("alice"));
-        QCOMPARE(pwdEdit()->text(), outcome.contains("password") ? remembered : QString());
+        QCOMPARE(pwdEdit()->text(), outcome.contains("password") ? placeholders : QString());
         QCOMPARE(autoLoginBox()->isChecked(), outcome.contains("box"));
         const bool logsIn = outcome.contains("login");
         const auto isIn = [] { return host.calls.contains("signalLoginSuccess()"); };
@@ -259,7 +259,7 @@ private slots:
             const Brackets brackets;
             QCOMPARE(host.calls.first(), QString("retranslate()"));
             QCOMPARE(text("localLoginBt") + pwdEdit()->placeholderText(), QString("[Login][password]"));
-            QCOMPARE(nameEdit()->text() + pwdEdit()->text(), "alice" + remembered);
+            QCOMPARE(nameEdit()->text() + pwdEdit()->text(), "alice" + placeholders);
             QVERIFY(autoLoginBox()->isChecked());
         }
         QTRY_COMPARE(text("localLoginBt"), QString("Login"));

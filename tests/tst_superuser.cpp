@@ -121,6 +121,7 @@ private slots:
 
     void cursorIsInTheFirstFieldAfterAGesture()
     {
+        host.customization.cloudLoginEnabled = true; // there are tabs, which come first
         newScreen(GestureLogin);
         QTest::keyClick(window, Qt::Key_Tab);
         QVERIFY(child("autoLogin")->hasFocus());

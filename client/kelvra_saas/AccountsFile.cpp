@@ -45,7 +45,7 @@ password=Dynabook72
 QString toText(const QByteArray &data, bool *valid)
 {
     QTextCodec::ConverterState state;
-    const QString text = QTextCodec::codecForName("UTF-8")->toUnicode(data.constData(), data.size(), &state);
+    QString text = QTextCodec::codecForName("UTF-8")->toUnicode(data.constData(), data.size(), &state);
     *valid = state.invalidChars == 0 && state.remainingChars == 0 && !text.contains(QChar::Null);
     return text;
 }

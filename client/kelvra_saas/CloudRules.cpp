@@ -16,7 +16,7 @@ const QString codeLogin = QStringLiteral("VERIFY_CODE");
 constexpr int errorsToLock = 5;
 constexpr int errorWindowSeconds = 600;
 constexpr int lockMinutes = 30;
-constexpr int secondsPerMinute = 60;
+constexpr qint64 secondsPerMinute = 60;
 constexpr int tokenWords = 8; // of 32 bits
 
 QString inFolder(const QString &folder, const QString &file)
@@ -151,7 +151,7 @@ CloudAnswer CloudRules::countError(const QString &phone, int code, int lockCode)
 
 CloudAnswer CloudRules::refuseLocked(const QString &phone, int code) const
 {
-    const int minutes = (lockedSeconds(phone) + secondsPerMinute - 1) / secondsPerMinute;
+    const int minutes = int((lockedSeconds(phone) + secondsPerMinute - 1) / secondsPerMinute);
     return answerWith(code, minutes, errorFields(records.of(phone).errors, 0, minutes));
 }
 
