@@ -111,8 +111,8 @@ private:
 
     void draw(const QWidget &window, const QLineF &way)
     {
-        for (qreal at = pixelsPerMove; at < way.length(); at += pixelsPerMove) {
-            moveTo(window, way.pointAt(at / way.length()).toPoint());
+        for (int move = 1; move * pixelsPerMove < way.length(); ++move) {
+            moveTo(window, way.pointAt(move * pixelsPerMove / way.length()).toPoint());
             if (!moved)
                 std::exit(1);
         }
