@@ -38,8 +38,8 @@ MoveableDialog::~MoveableDialog() = default;
 void MoveableDialog::setDefaultPos(const QPoint &pos)
 {
     d->defaultPos = pos;
-    // The window system had better make the window there. Where it makes the window first and then moves it, Qt asks
-    // for the place while a window manager is still taking the window over, and may keep a wrong answer.
+    // A window is made at its place, not moved there later: Qt asks for the place of a window that has been moved while
+    // a window manager is still taking it over, and may keep a wrong answer.
     if (!testAttribute(Qt::WA_WState_Created))
         move(pos);
 }
