@@ -4,8 +4,8 @@
 
 #include "host/kelvra_contact/SystemMsg.h"
 #include "host/kelvra_worker/SystemWorker.h"
-#include "login/frame/LoginInit.h"
 #include "host/kit/HostSetup.h"
+#include "login/frame/LoginInit.h"
 
 #include <QApplication>
 #include <QDir>

@@ -71,7 +71,7 @@ struct Watch
     {
         const QString deed = call.section('(', 0, 0);
         const QStringList said = call.section('(', 1).chopped(1).split(',');
-        const QString name = said.first();
+        const QString &name = said.first();
         const bool right = isRight(call, name);
         if (deed != "translate")
             trace << "    -> " + call;
@@ -90,7 +90,7 @@ struct Watch
         } else if (deed == "loginFailureLog") {
             mustLock = failures >= maxFailures;
         } else if (deed == "updateLockInfo") {
-            lock(name == "true", now + 1000 * said.value(1).toInt());
+            lock(name == "true", now + 1000LL * said.value(1).toInt());
         } else if ((deed == "verifySuperUserAnswers" && host.answersRight) ||
                    (deed == "checkSuperUserCredentials" && host.credentialsValid)) {
             recovered << name;
