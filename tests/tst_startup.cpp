@@ -443,7 +443,7 @@ private:
         if (kind == "folder")
             return QDir().mkdir(at(file));
         if (kind == "large file")
-            return QFile(at(file)).open(QFile::WriteOnly) && QFile::resize(at(file), 32 * 1024 * 1024);
+            return QFile(at(file)).open(QFile::WriteOnly) && QFile::resize(at(file), 32LL * 1024 * 1024);
         if (kind == "pipe")
             return QProcess::execute("mkfifo", {at(file)}) == 0;
         // A link to a link: whoever puts a file in the place of its target leaves the device alone.
