@@ -110,7 +110,7 @@ void WindowPlace::correct()
 {
     if (!isFree() || stands())
         return;
-    // Who moves it time and again is a user, or a window manager that insists on a place of its own.
+    // A window that keeps moving is moved by the user, or by a window manager with a rule of its own.
     letGo = correctionsLeft == 0;
     --correctionsLeft;
     put();

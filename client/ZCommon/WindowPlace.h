@@ -32,7 +32,7 @@ public:
     /** Puts the window where it belongs by now, unless it has been let go. */
     void update();
     bool isLetGo() const { return letGo; }
-    /** Holds a window that has been let go. */
+    /** Takes a window back that has been let go. */
     void takeBack() { letGo = false; }
 
     bool eventFilter(QObject *object, QEvent *event) override;

@@ -12,7 +12,7 @@ namespace kelvra_worker {
 
 namespace {
 
-constexpr qint64 maxImageBytes = Q_INT64_C(64) * 1024 * 1024;
+constexpr qint64 maxImageBytes = Q_INT64_C(40) * 1024 * 1024; // the login shows no larger one
 
 const QString cloudLoginKey = QStringLiteral("login/cloud_login");
 const QString customImageKey = QStringLiteral("loading/custom_image");
@@ -33,7 +33,7 @@ cloud_login=true
 custom_image=false
 ; That image, 860 x 500 pixels. Write / between folders, and put the path in quotes ("...") if it holds a comma or
 ; a semicolon. A path that does not begin at a root is looked up beside this file. If the file does not exist, the
-; built-in image is shown; a folder or a file of more than 64 MiB stops the start. Default: empty
+; built-in image is shown; a folder or a file of more than 40 MiB stops the start. Default: empty
 image=
 
 [recovery]

@@ -23,7 +23,7 @@ AlertBox::Icon iconFor(const QString &title)
     return title == dictionary.alertTitle(DictDef::InformationTitle) ? AlertBox::Information : AlertBox::Warning;
 }
 
-/** Alerts do not belong to a window that only keeps others company. */
+/** Alerts belong to no tool window, such as the phone. */
 bool canHaveAlert(const QWidget *window)
 {
     return window && window->isVisible() && (window->windowType() == Qt::Window || window->windowType() == Qt::Dialog);

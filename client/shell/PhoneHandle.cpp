@@ -36,7 +36,7 @@ PhoneHandle::PhoneHandle(QWidget *parent)
     setCursor(Qt::PointingHandCursor);
     setFocusPolicy(Qt::StrongFocus);
     setFixedSize(handleSize);
-    // Where nothing composes windows the corners would be black.
+    // Without a compositor the corners would be black.
     QPainterPath shape;
     shape.addRoundedRect(body(), bodyRadius, bodyRadius);
     setMask(QRegion(shape.toFillPolygon().toPolygon()) & rect());

@@ -154,7 +154,7 @@ QRect PhonePlace::screen() const
     const QScreen *shown = login.window() ? login.window()->screen() : QGuiApplication::screenAt(QCursor::pos());
     if (!shown)
         shown = QGuiApplication::primaryScreen();
-    // At a broken scale factor the last pixel may be a part of one only.
+    // At a fractional scale factor the last pixel may be a part of one only.
     const int broken = shown->devicePixelRatio() == std::floor(shown->devicePixelRatio()) ? 0 : 1;
     return shown->availableGeometry().adjusted(0, 0, -broken, -broken);
 }

@@ -134,7 +134,7 @@ void LoginMethodSelWt::keyPressEvent(QKeyEvent *event)
     case Qt::Key_Return:
     case Qt::Key_Enter:
     case Qt::Key_Space:
-        // One that is still held from before the page has come chooses nothing.
+        // A key that was pressed before the page was shown, and is still held, chooses nothing.
         if (!event->isAutoRepeat())
             choice->click();
         break;
